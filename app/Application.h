@@ -1,0 +1,48 @@
+// Makes the parts of the program and ties them together: documents with their windows and menus,
+// the start window, the delegate, and other starts of the program that hand over their files.
+
+#pragma once
+
+#include "app/StartWindow.h"
+#include "app/TomelyDelegate.h"
+#include "platform/widgets/DocumentController.h"
+
+#include <QObject>
+
+namespace tomely {
+
+class BookListDocument;
+class BookListWindow;
+
+class Application : public QObject {
+    Q_OBJECT
+
+public:
+    /// Everything must outlive the application.
+    Application(UserDefaults& defaults, Alerts& alerts, FilePanels& panels);
+
+    /// Shows the first windows: those files, or the default collection, or an untitled one. When no
+    /// file can be opened the start window comes up.
+    void start(const QStringList& files);
+
+    /// Opens files for another start of the program; without files it comes forward.
+    void openForOtherStart(const QStringList& files);
+
+    DocumentController& documents() { return m_documents; }
+
+    StartWindow& startWindow() { return m_startWindow; }
+
+private:
+    std::unique_ptr<Document> makeDocument();
+    BookListWindow* makeWindow(BookListDocument& document);
+    void comeForward();
+    void showStartWindowWhenAlone();
+
+    UserDefaults& m_defaults;
+    Alerts& m_alerts;
+    DocumentController m_documents;
+    TomelyDelegate m_delegate;
+    StartWindow m_startWindow;
+};
+
+} // namespace tomely

@@ -1,0 +1,147 @@
+#include "app/MainMenu.h"
+
+#include "platform/Document.h"
+#include "platform/widgets/DocumentController.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace tomely {
+
+namespace {
+
+struct Item {
+    QLatin1StringView name; // object name
+    QString text;
+    QLatin1StringView icon; // of the desktop's theme
+    QKeySequence::StandardKey keys = QKeySequence::UnknownKey;
+};
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("MainMenu", text);
+}
+
+template <class Triggered>
+QAction* addItem(QMenu& menu, const Item& item, Triggered triggered)
+{
+    QAction* const action = menu.addAction(QIcon::fromTheme(item.icon), item.text);
+    action->setObjectName(item.name);
+    if (item.keys != QKeySequence::UnknownKey)
+        action->setShortcuts(item.keys);
+    QObject::connect(action, &QAction::triggered, &menu, triggered);
+    return action;
+}
+
+/// File names, and in front of names that are alike the folders that tell them apart.
+QString recentText(const QString& path, const QStringList& all)
+{
+    const QString name = QFileInfo(path).completeBaseName();
+    const auto alike = std::ranges::count_if(
+        all, [&name](const QString& other) { return QFileInfo(other).completeBaseName() == name; });
+    QString text = alike > 1 ? path : name;
+    return text.replace(u'&', "&&"_L1);
+}
+
+void fillRecentMenu(QMenu& menu, DocumentController& documents)
+{
+    menu.clear();
+    const QStringList paths = documents.recentDocuments();
+    for (const QString& path : paths) {
+        QAction* const action = menu.addAction(recentText(path, paths));
+        action->setStatusTip(path);
+        action->setEnabled(QFileInfo::exists(path));
+        QObject::connect(action, &QAction::triggered, &menu,
+            [&documents, path] { documents.openDocument(path); });
+    }
+    menu.addSeparator();
+    QAction* const clear = menu.addAction(tr("&Clear Menu"));
+    clear->setEnabled(!paths.isEmpty());
+    QObject::connect(
+        clear, &QAction::triggered, &menu, [&documents] { documents.clearRecentDocuments(); });
+}
+
+void addRecentMenu(QMenu& fileMenu, DocumentController& documents)
+{
+    QMenu* const recent = fileMenu.addMenu(tr("Open &Recent"));
+    recent->setObjectName("recentMenu"_L1);
+    // Filled when it is opened: files come and go, and other windows add to it.
+    QObject::connect(recent, &QMenu::aboutToShow, recent,
+        [recent, &documents] { fillRecentMenu(*recent, documents); });
+}
+
+void addFileMenu(QMainWindow& window, Document& document, DocumentController& documents)
+{
+    QMenu& menu = *window.menuBar()->addMenu(tr("&File"));
+    menu.setObjectName("fileMenu"_L1);
+    addItem(menu, {"newCollection"_L1, tr("&New Collection"), "document-new"_L1, QKeySequence::New},
+        [&documents] { documents.newDocument(); });
+    addItem(menu, {"openCollection"_L1, tr("&Open…"), "document-open"_L1, QKeySequence::Open},
+        [&documents, &window] { documents.openWithPanel(&window); });
+    addRecentMenu(menu, documents);
+    menu.addSeparator();
+    addItem(menu, {"save"_L1, tr("&Save"), "document-save"_L1, QKeySequence::Save},
+        [&documents, &document] { documents.save(document); });
+    addItem(menu, {"saveAs"_L1, tr("Save &As…"), "document-save-as"_L1, QKeySequence::SaveAs},
+        [&documents, &document] { documents.saveAs(document); });
+    QAction* const revert =
+        addItem(menu, {"revert"_L1, tr("Re&vert to Saved"), "document-revert"_L1},
+            [&documents, &document] { documents.revert(document); });
+    QObject::connect(&menu, &QMenu::aboutToShow, revert,
+        [revert, &document] { revert->setEnabled(!document.filePath().isEmpty()); });
+    menu.addSeparator();
+    addItem(menu, {"closeWindow"_L1, tr("&Close"), "window-close"_L1, QKeySequence::Close},
+        [&documents, &document] { documents.close(document); });
+    addItem(menu, {"quit"_L1, tr("&Quit"), "application-exit"_L1, QKeySequence::Quit},
+        [&documents] { quit(documents); })
+        ->setMenuRole(QAction::QuitRole);
+}
+
+void addHelpMenu(QMainWindow& window)
+{
+    QMenu& menu = *window.menuBar()->addMenu(tr("&Help"));
+    menu.setObjectName("helpMenu"_L1);
+    addItem(menu, {"about"_L1, tr("&About Tomely"), "help-about"_L1}, [&window] {
+        showAbout(&window);
+    })->setMenuRole(QAction::AboutRole);
+}
+
+} // namespace
+
+void addMainMenu(QMainWindow& window, Document& document, DocumentController& documents)
+{
+    addFileMenu(window, document, documents);
+    addHelpMenu(window);
+}
+
+void quit(DocumentController& documents)
+{
+    documents.closeAll([](bool closed) {
+        if (closed)
+            QApplication::quit();
+    });
+}
+
+void showAbout(QWidget* window)
+{
+    auto* const box = new QMessageBox(window);
+    box->setObjectName("aboutBox"_L1);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowTitle(tr("About Tomely"));
+    box->setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
+    box->setText("<b>%1</b>"_L1.arg(tr("Tomely %1").arg(QApplication::applicationVersion())));
+    box->setInformativeText(tr("A catalogue of the books you own.\n\nFree software under the MIT "
+                               "licence, built with Qt %1.")
+                                .arg(QLatin1StringView(qVersion())));
+    box->open();
+}
+
+} // namespace tomely

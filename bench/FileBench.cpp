@@ -1,0 +1,110 @@
+// Opening and saving a collection, beside what the bytes alone cost.
+
+#include "bench/Libraries.h"
+#include "model/BookField.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace tomely {
+
+namespace {
+
+void open(benchmark::State& state)
+{
+    const QString path = libraryFileOf(static_cast<int>(state.range(0)));
+    for (auto step : state) {
+        BookListDocument document;
+        if (document.readFromFile(path))
+            state.SkipWithError("the file could not be read");
+        benchmark::DoNotOptimize(document.getBookListSize());
+    }
+}
+
+/// All texts of the library, end to end.
+QByteArray allTexts(const BookListDocument& document)
+{
+    QByteArray bytes;
+    for (const auto& [key, book] : document.books()) {
+        for (const BookField& field : bookFields()) {
+            if (std::holds_alternative<TextAccess>(field.access))
+                bytes += field.text(*book).toUtf8();
+        }
+    }
+    return bytes;
+}
+
+QByteArray readBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void open_floor(benchmark::State& state)
+{
+    const int books = static_cast<int>(state.range(0));
+    const QString path = libraryFileOf(books);
+    const QByteArray texts = allTexts(libraryOf(books));
+    for (auto step : state) {
+        benchmark::DoNotOptimize(readBytes(path));
+        benchmark::DoNotOptimize(QString::fromUtf8(texts));
+    }
+}
+
+void save(benchmark::State& state)
+{
+    BookListDocument document;
+    if (document.readFromFile(libraryFileOf(static_cast<int>(state.range(0)))))
+        state.SkipWithError("the file could not be read");
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"saved.books"_s);
+    for (auto step : state) {
+        if (document.writeToFile(path))
+            state.SkipWithError("the file could not be written");
+    }
+}
+
+/// Writes and syncs the bytes beside the target and renames them onto it.
+bool writeSynced(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path + ".new"_L1);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        || file.write(bytes) != bytes.size() || fsync(file.handle()) != 0)
+        return false;
+    file.close();
+    return std::rename(
+               QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData())
+        == 0;
+}
+
+void save_floor(benchmark::State& state)
+{
+    const QByteArray bytes = readBytes(libraryFileOf(static_cast<int>(state.range(0))));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"saved.books"_s);
+    for (auto step : state) {
+        if (!writeSynced(path, bytes))
+            state.SkipWithError("the file could not be written");
+    }
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime();
+}
+
+BENCHMARK(open)->Apply(sizes);
+BENCHMARK(open_floor)->Apply(sizes);
+BENCHMARK(save)->Apply(sizes);
+BENCHMARK(save_floor)->Apply(sizes);
+
+} // namespace
+
+} // namespace tomely

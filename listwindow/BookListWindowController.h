@@ -1,0 +1,105 @@
+// The main window of a collection: builds it from its rooms (list engine, tables, columns, side
+// bar), wires them, and owns which books are selected. What each room does is its own file's
+// affair.
+
+#pragma once
+
+#include "document/BookListWindow.h"
+#include "listwindow/engine/ListEngine.h"
+#include "platform/widgets/WindowController.h"
+
+#include <QTimer>
+
+#include <memory>
+
+class QLabel;
+class QSplitter;
+class QTableView;
+
+namespace Ui {
+class BookListWindow;
+}
+
+namespace tomely {
+
+class BookListDocument;
+class BookTableModel;
+class ColumnLayout;
+class GroupSidebar;
+
+class BookListWindowController : public WindowController, public BookListWindow {
+    Q_OBJECT
+
+public:
+    /// How long a new window settles before moves of columns and splitters count as the person's.
+    static constexpr int startupTimerMilliseconds = 100;
+    static constexpr int startupTimerTicks = 5;
+
+    /// Builds the window and loads it, which leaves the document unchanged. The document must
+    /// outlive the controller.
+    explicit BookListWindowController(BookListDocument& document);
+    ~BookListWindowController() override;
+
+    // What the document asks of its window.
+    void refresh() override;
+    void setBooksChanged() override;
+    void groupsChanged() override;
+    void columnsSelectionChanged() override;
+    void updateColumnName(const ColumnEntry& column) override;
+    void initFilterDropDown() override;
+    void updateCurrentColumnInfo() override;
+    WindowLayout currentLayout() override;
+    void endGroupNameEditting() override;
+
+    /// The first call restores the layout that is saved with the document.
+    void showWindow() override;
+
+    QSplitter* getImageSplitter() const;
+    QSplitter* getListSplitter() const;
+
+    const std::vector<BookEntry*>& getDisplayedBooks() const
+    {
+        return m_engine.getDisplayedBooks();
+    }
+
+    const std::vector<BookEntry*>& getAllBooks() const { return m_engine.getAllBooks(); }
+
+    /// Which books are shown; a change shows with the next refresh().
+    BookFilter& filter() { return m_engine.filter(); }
+
+    /// "12 of 250 displayed"
+    QString statusText() const;
+
+private:
+    void buildBookTable();
+    void windowDidLoad();
+    void startupTimer();
+    void restoreLayout();
+    void windowLayoutChanged();
+    void didClickTableColumn(qint32 columnKey);
+    void groupSelected(qint32 groupKey);
+    void reloadTable();
+    void bookListSelectionDidChange();
+    void showStatus();
+
+    /// The row that commands are about: the current one of the selected rows; -1 when none is.
+    int selectedRow() const;
+
+    BookListDocument& m_document;
+    std::unique_ptr<Ui::BookListWindow> m_ui;
+    ListEngine m_engine;
+    QTableView* m_bookTable = nullptr; // of m_ui
+    QLabel* m_emptyText = nullptr; // in the list's place while no book is shown
+    QLabel* m_idStatusText = nullptr;
+    std::unique_ptr<BookTableModel> m_bookModel;
+    std::unique_ptr<ColumnLayout> m_columns;
+    std::unique_ptr<GroupSidebar> m_sidebar;
+    QTimer m_startupTimer;
+    int m_startupTimerCounter = 0;
+    bool m_bShowWindowCalled = false;
+    bool m_bDetectUIChanges = false;
+    bool m_isReloading = false;
+    quint64 m_shownStamp = 0; // of the book whose picture is shown
+};
+
+} // namespace tomely

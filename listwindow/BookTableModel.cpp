@@ -1,0 +1,78 @@
+#include "listwindow/BookTableModel.h"
+
+#include "listwindow/engine/CellText.h"
+#include "model/KeyText.h"
+
+#include <algorithm>
+
+namespace tomely {
+
+BookTableModel::BookTableModel(
+    const std::vector<BookEntry*>& displayedBooks, const ColumnDictionary& columns, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_displayedBooks(displayedBooks)
+    , m_columns(columns)
+{
+    m_keys.reserve(columns.size());
+    for (const auto& [key, column] : columns)
+        m_keys.push_back(key);
+}
+
+int BookTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_displayedBooks.size());
+}
+
+int BookTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_keys.size());
+}
+
+QVariant BookTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return cellText(*m_displayedBooks.at(static_cast<std::size_t>(index.row())),
+            keyOfColumn(index.column()), index.row());
+    case Qt::TextAlignmentRole:
+        return headerData(index.column(), Qt::Horizontal, role);
+    default:
+        return {};
+    }
+}
+
+QVariant BookTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return record(section).getColumnName();
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue<int>(
+            record(section).getCentered() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    default:
+        return {};
+    }
+}
+
+int BookTableModel::columnOfKey(qint32 columnKey) const
+{
+    const auto place = std::ranges::find(m_keys, keyText(columnKey));
+    return place == m_keys.end() ? -1 : static_cast<int>(place - m_keys.begin());
+}
+
+qint32 BookTableModel::keyOfColumn(int column) const
+{
+    constexpr qint32 noField = -1;
+    return keyNumber(m_keys.at(static_cast<std::size_t>(column))).value_or(noField);
+}
+
+const ColumnEntry& BookTableModel::record(int column) const
+{
+    return m_columns.find(m_keys.at(static_cast<std::size_t>(column)))->second;
+}
+
+} // namespace tomely

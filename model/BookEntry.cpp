@@ -1,0 +1,120 @@
+#include "model/BookEntry.h"
+
+#include "model/CaseFolding.h"
+#include "model/KeyText.h"
+#include "model/TextTrimming.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace tomely {
+
+namespace {
+
+constexpr std::array<QLatin1StringView, 4> typeTexts = {
+    "Hardcover"_L1, "Paperback"_L1, "Audio Book"_L1, "eBook"_L1};
+constexpr qint32 typeOfEmptyText = 4;
+constexpr qint32 typeOfUnknownText = 1;
+
+} // namespace
+
+void BookEntry::setKey(qint32 number)
+{
+    change(m_strBookKey, keyText(number));
+}
+
+void BookEntry::setTitle(const QString& value)
+{
+    change(m_strTitle, trimmedText(value));
+}
+
+void BookEntry::setAuthor(const QString& value)
+{
+    change(m_strAuthor, trimmedText(value));
+}
+
+void BookEntry::setNotes(const QString& value)
+{
+    change(m_strNotes, trimmedText(value));
+}
+
+QString BookEntry::typeText(qint32 type)
+{
+    const auto index = static_cast<std::size_t>(static_cast<quint32>(type));
+    return index < typeTexts.size() ? QString(typeTexts.at(index)) : u""_s;
+}
+
+qint32 BookEntry::getTypeNum(QStringView text)
+{
+    if (text.isEmpty())
+        return typeOfEmptyText;
+    for (std::size_t type = 0; type < typeTexts.size(); ++type) {
+        if (compareIgnoringCase(text, QString(typeTexts.at(type))) == 0)
+            return static_cast<qint32>(type);
+    }
+    return typeOfUnknownText;
+}
+
+void BookEntry::setSelectedGroups(GroupMembership groups)
+{
+    change(m_dSelectedGroups, groups);
+}
+
+void BookEntry::addToGroup(const QString& groupKey)
+{
+    if (m_dSelectedGroups.contains(groupKey))
+        return;
+    m_dSelectedGroups.insert(groupKey);
+    m_changeStamp.tick();
+}
+
+bool BookEntry::removeFromGroup(QStringView groupKey)
+{
+    if (!m_dSelectedGroups.remove(groupKey))
+        return false;
+    m_changeStamp.tick();
+    return true;
+}
+
+void BookEntry::setImageData(int slot, const QByteArray& jpeg)
+{
+    change(m_images.at(imageIndex(slot)), jpeg);
+}
+
+QImage BookEntry::getImage(int slot) const
+{
+    QByteArray jpeg = getImageData(slot);
+    if (jpeg.isEmpty())
+        return {};
+    QBuffer buffer(&jpeg);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    return reader.read();
+}
+
+bool BookEntry::hasImages() const
+{
+    return std::any_of(
+        m_images.begin(), m_images.end(), [](const QByteArray& jpeg) { return !jpeg.isNull(); });
+}
+
+QImage BookEntry::getFirstImage() const
+{
+    for (int slot = 1; slot <= ImageCount; ++slot) {
+        if (!m_images.at(imageIndex(slot)).isNull())
+            return getImage(slot);
+    }
+    return {};
+}
+
+QString BookEntry::present(const QString& text)
+{
+    return text.isNull() ? u""_s : text;
+}
+
+} // namespace tomely

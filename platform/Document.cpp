@@ -1,0 +1,114 @@
+#include "platform/Document.h"
+
+#include "platform/ArchiveError.h"
+#include "platform/AtomicFile.h"
+#include "platform/FileReading.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <new>
+
+namespace tomely {
+
+namespace {
+
+/// Owns a window until the event loop is reached again: a window may be closing itself right now.
+class LateOwner : public QObject {
+public:
+    explicit LateOwner(std::unique_ptr<DocumentWindow> window) : m_window(std::move(window)) { }
+
+private:
+    std::unique_ptr<DocumentWindow> m_window;
+};
+
+} // namespace
+
+QString Document::displayName() const
+{
+    if (m_filePath.isEmpty())
+        return m_untitledName;
+    const QFileInfo info(m_filePath);
+    const QString name = info.completeBaseName();
+    return name.isEmpty() ? info.fileName() : name;
+}
+
+void Document::setUntitledName(const QString& name)
+{
+    m_untitledName = name;
+    Q_EMIT nameChanged();
+}
+
+std::optional<DocumentFailure> Document::readFromFile(const QString& path, const Progress& progress)
+{
+    try {
+        const auto bytes = readWholeFile(path, progress);
+        if (const QString* const error = std::get_if<QString>(&bytes))
+            return DocumentFailure{*error};
+        if (auto failure = loadDataRepresentation(std::get<QByteArray>(bytes), progress))
+            return failure;
+    } catch (const OperationCancelled&) {
+        return DocumentFailure{.reason = {}, .cancelled = true};
+    } catch (const std::bad_alloc&) {
+        return DocumentFailure{tr("There is not enough memory")};
+    }
+    m_filePath = QFileInfo(path).absoluteFilePath();
+    clearChangeCount();
+    Q_EMIT nameChanged();
+    return std::nullopt;
+}
+
+std::optional<DocumentFailure> Document::writeToFile(const QString& path, const Progress& progress)
+{
+    try {
+        const QByteArray bytes = dataRepresentation(progress);
+        if (const FileResult result = AtomicFile::write(path, bytes, progress); !result.isOk())
+            return DocumentFailure{result.error};
+    } catch (const ArchiveError& error) {
+        return DocumentFailure{error.message()};
+    } catch (const std::bad_alloc&) {
+        return DocumentFailure{tr("There is not enough memory")};
+    }
+    m_filePath = QFileInfo(path).absoluteFilePath();
+    clearChangeCount();
+    Q_EMIT nameChanged();
+    return std::nullopt;
+}
+
+void Document::addWindowController(std::unique_ptr<DocumentWindow> window)
+{
+    m_windows.push_back(std::move(window));
+}
+
+void Document::removeWindowController(DocumentWindow* window)
+{
+    const auto place =
+        std::ranges::find(m_windows, window, [](const auto& candidate) { return candidate.get(); });
+    if (place == m_windows.end() || place == m_windows.begin())
+        return;
+    auto* const owner = new LateOwner(std::move(*place));
+    m_windows.erase(place);
+    owner->deleteLater();
+}
+
+DocumentWindow* Document::mainWindow() const
+{
+    return m_windows.empty() ? nullptr : m_windows.front().get();
+}
+
+void Document::showWindows()
+{
+    for (const auto& window : m_windows)
+        window->showWindow();
+}
+
+void Document::setEdited(bool edited)
+{
+    if (edited == m_edited)
+        return;
+    m_edited = edited;
+    Q_EMIT editedChanged(edited);
+}
+
+} // namespace tomely

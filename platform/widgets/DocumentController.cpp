@@ -1,0 +1,338 @@
+#include "platform/widgets/DocumentController.h"
+
+#include "platform/Alerts.h"
+#include "platform/Document.h"
+#include "platform/PreferenceKeys.h"
+#include "platform/UserDefaults.h"
+#include "platform/widgets/WaitPanel.h"
+#include "platform/widgets/WindowController.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace tomely {
+
+namespace {
+
+// How often a request that came during a wait looks whether the wait is over.
+constexpr int retryMilliseconds = 50;
+
+QWidget* windowOf(const Document& document)
+{
+    DocumentWindow* const window = document.mainWindow();
+    return window ? qobject_cast<QWidget*>(window->windowObject()) : nullptr;
+}
+
+void answer(const DocumentController::Done& done, bool happened)
+{
+    if (done)
+        done(happened);
+}
+
+/// One name for a file however it was reached: links resolved, relative paths made absolute.
+QString canonicalPath(const QString& path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? QDir::cleanPath(QFileInfo(path).absoluteFilePath()) : canonical;
+}
+
+} // namespace
+
+DocumentController::DocumentController(Environment environment, QObject* parent)
+    : QObject(parent)
+    , m_environment(std::move(environment))
+{
+}
+
+DocumentController::~DocumentController() = default;
+
+Document* DocumentController::currentDocument() const
+{
+    if (m_current)
+        return m_current;
+    return m_documents.empty() ? nullptr : m_documents.back().get();
+}
+
+Document* DocumentController::documentForFile(const QString& path) const
+{
+    const QString wanted = canonicalPath(path);
+    const auto place = std::ranges::find_if(m_documents, [&wanted](const auto& document) {
+        return !document->filePath().isEmpty() && canonicalPath(document->filePath()) == wanted;
+    });
+    return place == m_documents.end() ? nullptr : place->get();
+}
+
+// Making and opening
+
+Document* DocumentController::newDocument()
+{
+    std::unique_ptr<Document> document = m_environment.makeDocument();
+    document->setUntitledName(nextUntitledName());
+    return adopt(std::move(document));
+}
+
+QString DocumentController::nextUntitledName()
+{
+    ++m_untitledCount;
+    return m_untitledCount == 1 ? tr("Untitled") : tr("Untitled %1").arg(m_untitledCount);
+}
+
+Document* DocumentController::openDocument(const QString& path)
+{
+    if (WaitPanel::isWaiting()) {
+        QTimer::singleShot(retryMilliseconds, this, [this, path] { openDocument(path); });
+        return nullptr;
+    }
+    if (Document* const open = documentForFile(path)) {
+        if (DocumentWindow* const window = open->mainWindow())
+            window->bringToFront();
+        return open;
+    }
+    std::unique_ptr<Document> document = readDocument(path, nullptr);
+    return document ? adopt(std::move(document)) : nullptr;
+}
+
+std::unique_ptr<Document> DocumentController::readDocument(const QString& path, QWidget* window)
+{
+    std::unique_ptr<Document> document = m_environment.makeDocument();
+    std::optional<DocumentFailure> failure;
+    {
+        const QString name = QFileInfo(path).completeBaseName();
+        WaitPanel panel(window, tr("Opening '%1'…").arg(name), WaitPanel::Cancel::Possible);
+        failure = document->readFromFile(path, panel.progress());
+    }
+    if (!failure) {
+        noteRecent(document->filePath());
+        return document;
+    }
+    if (!failure->cancelled)
+        sayCannotOpen(path, *failure);
+    return nullptr;
+}
+
+void DocumentController::sayCannotOpen(const QString& path, const DocumentFailure& failure)
+{
+    const QString text = failure.standsAlone
+        ? failure.reason
+        : tr("The file '%1' could not be opened.\n\n%2").arg(path, failure.reason);
+    m_environment.alerts.runModal(messageAlert(text));
+}
+
+Document* DocumentController::adopt(std::unique_ptr<Document> document)
+{
+    Document* const adopted = document.get();
+    m_documents.push_back(std::move(document));
+    adopted->makeWindowControllers();
+    if (auto* const window = dynamic_cast<WindowController*>(adopted->mainWindow()))
+        watchWindow(*adopted, *window);
+    m_current = adopted;
+    adopted->showWindows();
+    Q_EMIT documentOpened(adopted);
+    return adopted;
+}
+
+void DocumentController::watchWindow(Document& document, WindowController& window)
+{
+    connect(&window, &WindowController::closeRequested, &document,
+        [this, &document] { close(document); });
+    connect(&window, &WindowController::activated, &document,
+        [this, &document] { m_current = &document; });
+}
+
+void DocumentController::openWithPanel(QWidget* window)
+{
+    m_environment.panels.beginOpenPanel(
+        window, m_environment.fileType, [this](const QStringList& paths) {
+            for (const QString& path : paths)
+                openDocument(path);
+        });
+}
+
+// Saving
+
+bool DocumentController::write(Document& document, const QString& path)
+{
+    std::optional<DocumentFailure> failure;
+    {
+        WaitPanel panel(windowOf(document), tr("Saving '%1'…").arg(document.displayName()),
+            WaitPanel::Cancel::Impossible);
+        failure = document.writeToFile(path, panel.progress());
+    }
+    if (failure) {
+        m_environment.alerts.runModal(messageAlert(
+            tr("'%1' could not be saved.\n\n%2").arg(document.displayName(), failure->reason)));
+        return false;
+    }
+    noteRecent(document.filePath());
+    return true;
+}
+
+void DocumentController::save(Document& document, Done done)
+{
+    if (WaitPanel::isWaiting())
+        return answer(done, false);
+    if (document.filePath().isEmpty())
+        return saveAs(document, std::move(done));
+    answer(done, write(document, document.filePath()));
+}
+
+void DocumentController::saveAs(Document& document, Done done)
+{
+    if (WaitPanel::isWaiting())
+        return answer(done, false);
+    const QString suggested = document.filePath().isEmpty()
+        ? QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+              .filePath(withExtension(document.displayName(), m_environment.fileType))
+        : document.filePath();
+    m_environment.panels.beginSavePanel(windowOf(document), m_environment.fileType, suggested,
+        [this, target = QPointer(&document), done = std::move(done)](const QString& path) {
+            if (!target || path.isEmpty())
+                return answer(done, false);
+            const Document* const holder = documentForFile(path);
+            if (holder && holder != target) {
+                m_environment.alerts.runModal(
+                    messageAlert(tr("'%1' is open in another window. Choose another name.")
+                                     .arg(holder->displayName())));
+                return answer(done, false);
+            }
+            answer(done, write(*target, path));
+        });
+}
+
+// Reverting
+
+void DocumentController::revert(Document& document, Done done)
+{
+    if (WaitPanel::isWaiting() || document.filePath().isEmpty())
+        return answer(done, false);
+    if (!document.isDocumentEdited())
+        return reopen(document, done);
+    if (DocumentWindow* const window = document.mainWindow())
+        window->bringToFront();
+    const Alert question{
+        tr("Do you want to go back to the saved version of '%1'?\n\nYour changes since will be "
+           "lost.")
+            .arg(document.displayName()),
+        {tr("Revert"), tr("Cancel")}, 1, 1};
+    m_environment.alerts.beginSheet(windowOf(document), question,
+        [this, target = QPointer(&document), done = std::move(done)](int button) {
+            if (!target || button != 0)
+                return answer(done, false);
+            reopen(*target, done);
+        });
+}
+
+void DocumentController::reopen(Document& document, const Done& done)
+{
+    // The file is read before the document is let go, so that a damaged file costs nothing.
+    std::unique_ptr<Document> fresh = readDocument(document.filePath(), windowOf(document));
+    if (!fresh)
+        return answer(done, false);
+    remove(document);
+    adopt(std::move(fresh));
+    answer(done, true);
+}
+
+// Closing
+
+void DocumentController::close(Document& document, Done done)
+{
+    if (WaitPanel::isWaiting())
+        return answer(done, false);
+    if (document.isDocumentEdited())
+        return askToSave(document, std::move(done));
+    remove(document);
+    Q_EMIT documentClosed();
+    answer(done, true);
+}
+
+void DocumentController::askToSave(Document& document, Done done)
+{
+    // The question belongs on a window that can be seen, and there only once.
+    if (DocumentWindow* const window = document.mainWindow())
+        window->bringToFront();
+    if (!m_asked.insert(&document).second)
+        return answer(done, false);
+    const Alert question{tr("Do you want to save the changes to '%1'?").arg(document.displayName()),
+        {tr("Save"), tr("Don't Save"), tr("Cancel")}, 0, 2};
+    m_environment.alerts.beginSheet(windowOf(document), question,
+        [this, target = QPointer(&document), done = std::move(done)](int button) {
+            m_asked.erase(target);
+            if (!target || button == 2)
+                return answer(done, false);
+            if (button == 1)
+                target->clearChangeCount();
+            const auto closeSaved = [this, target, done](bool saved) {
+                if (!saved || !target)
+                    return answer(done, false);
+                close(*target, done);
+            };
+            if (button == 0)
+                save(*target, closeSaved);
+            else
+                closeSaved(true);
+        });
+}
+
+void DocumentController::closeAll(Done done)
+{
+    if (m_documents.empty())
+        return answer(done, true);
+    close(*m_documents.back(), [this, done = std::move(done)](bool closed) {
+        if (!closed)
+            return answer(done, false);
+        closeAll(done);
+    });
+}
+
+void DocumentController::remove(Document& document)
+{
+    const auto place = std::ranges::find(
+        m_documents, &document, [](const auto& candidate) { return candidate.get(); });
+    if (place == m_documents.end())
+        return;
+    for (const auto& window : document.windowControllers()) {
+        if (auto* const widget = qobject_cast<QWidget*>(window->windowObject()))
+            widget->hide();
+    }
+    if (m_current == &document)
+        m_current = nullptr;
+    m_asked.erase(&document);
+    // One of its windows may be handling an event right now.
+    place->release()->deleteLater();
+    m_documents.erase(place);
+}
+
+// Recent documents
+
+QStringList DocumentController::recentDocuments() const
+{
+    return m_environment.defaults.stringListForKey(PreferenceKeys::RecentDocuments);
+}
+
+void DocumentController::noteRecent(const QString& path)
+{
+    QStringList paths = recentDocuments();
+    paths.removeAll(path);
+    paths.prepend(path);
+    if (paths.size() > recentLimit)
+        paths.resize(recentLimit);
+    m_environment.defaults.setStringList(PreferenceKeys::RecentDocuments, paths);
+    Q_EMIT recentDocumentsChanged();
+}
+
+void DocumentController::clearRecentDocuments()
+{
+    m_environment.defaults.remove(PreferenceKeys::RecentDocuments);
+    Q_EMIT recentDocumentsChanged();
+}
+
+} // namespace tomely

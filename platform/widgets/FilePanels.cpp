@@ -1,0 +1,85 @@
+#include "platform/widgets/FilePanels.h"
+
+#include "platform/Alerts.h"
+#include "platform/widgets/MessageBoxAlerts.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace tomely {
+
+namespace {
+
+QString nameFilter(const FileType& type)
+{
+    return "%1 (*.%2)"_L1.arg(type.name, type.extension);
+}
+
+QFileDialog* makePanel(QWidget* window, const FileType& type)
+{
+    auto* const panel = new QFileDialog(window);
+    panel->setObjectName("filePanel"_L1);
+    panel->setNameFilters({nameFilter(type)});
+    return panel;
+}
+
+} // namespace
+
+QString withExtension(const QString& path, const FileType& type)
+{
+    const QString ending = u'.' + type.extension;
+    return path.isEmpty() || path.endsWith(ending, Qt::CaseInsensitive) ? path : path + ending;
+}
+
+QString DesktopFilePanels::runModalOpenPanel(const FileType& type, const QString& folder)
+{
+    return QFileDialog::getOpenFileName(nullptr, {}, folder, nameFilter(type));
+}
+
+void DesktopFilePanels::beginOpenPanel(
+    QWidget* window, const FileType& type, std::function<void(const QStringList& paths)> picked)
+{
+    QFileDialog* const panel = makePanel(window, type);
+    panel->setFileMode(QFileDialog::ExistingFiles);
+    panel->setAcceptMode(QFileDialog::AcceptOpen);
+    QObject::connect(panel, &QDialog::finished, panel, [panel, picked](int result) {
+        panel->deleteLater();
+        if (result == QDialog::Accepted)
+            picked(panel->selectedFiles());
+    });
+    panel->open();
+}
+
+void DesktopFilePanels::beginSavePanel(QWidget* window, const FileType& type,
+    const QString& suggestedPath, std::function<void(const QString& path)> picked)
+{
+    QFileDialog* const panel = makePanel(window, type);
+    panel->setFileMode(QFileDialog::AnyFile);
+    panel->setAcceptMode(QFileDialog::AcceptSave);
+    panel->setDefaultSuffix(type.extension);
+    const QFileInfo suggested(suggestedPath);
+    if (suggested.isAbsolute())
+        panel->setDirectory(suggested.absolutePath());
+    panel->selectFile(suggested.fileName());
+    QObject::connect(panel, &QDialog::finished, panel, [panel, type, picked](int result) {
+        panel->deleteLater();
+        const QString chosen =
+            result == QDialog::Accepted ? panel->selectedFiles().value(0) : u""_s;
+        const QString path = withExtension(chosen, type);
+        // The panel asked about the name that was typed, not about the one with the extension.
+        if (path != chosen && QFileInfo::exists(path)) {
+            const QString question =
+                QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
+            MessageBoxAlerts().beginSheet(panel->parentWidget(),
+                confirmationAlert(question.arg(QFileInfo(path).fileName())),
+                [path, picked](int button) { picked(button == 0 ? path : QString()); });
+            return;
+        }
+        picked(path);
+    });
+    panel->open();
+}
+
+} // namespace tomely

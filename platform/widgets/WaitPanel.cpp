@@ -1,0 +1,76 @@
+#include "platform/widgets/WaitPanel.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QPushButton>
+
+namespace tomely {
+
+namespace {
+
+// Work that takes less needs no panel; half a second is where a wait begins to need an explanation.
+constexpr qint64 showAfterMilliseconds = 300;
+constexpr qint64 repaintEveryMilliseconds = 30;
+constexpr int barSteps = 1000;
+
+} // namespace
+
+WaitPanel::WaitPanel(QWidget* parent, const QString& text, Cancel cancel)
+    : m_parent(parent)
+    , m_text(text)
+    , m_cancel(cancel)
+{
+    ++s_waiting;
+    m_sinceStart.start();
+    m_sinceReport.start();
+}
+
+WaitPanel::~WaitPanel()
+{
+    --s_waiting;
+}
+
+Progress WaitPanel::progress()
+{
+    return [this](qint64 done, qint64 total) {
+        report(done, total);
+    };
+}
+
+void WaitPanel::show()
+{
+    m_dialog = std::make_unique<QProgressDialog>(m_parent);
+    m_dialog->setObjectName(QLatin1StringView("waitPanel"));
+    m_dialog->setLabelText(m_text);
+    m_dialog->setRange(0, barSteps);
+    m_dialog->setWindowModality(Qt::ApplicationModal);
+    m_dialog->setMinimumDuration(0);
+    m_dialog->setAutoClose(false);
+    m_dialog->setAutoReset(false);
+    if (m_cancel == Cancel::Impossible) {
+        m_dialog->setCancelButton(nullptr);
+        m_dialog->setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
+    m_dialog->show();
+}
+
+void WaitPanel::report(qint64 done, qint64 total)
+{
+    if (!m_dialog && m_sinceStart.elapsed() < showAfterMilliseconds)
+        return;
+    if (m_dialog && m_sinceReport.elapsed() < repaintEveryMilliseconds)
+        return;
+    m_sinceReport.start();
+    if (!m_dialog)
+        show();
+    if (total > 0)
+        m_dialog->setValue(static_cast<int>(done * barSteps / total));
+    // The panel is modal to the whole program, so input reaches nothing but its Cancel button.
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    if (m_cancel == Cancel::Possible && m_dialog->wasCanceled())
+        throw OperationCancelled();
+}
+
+} // namespace tomely

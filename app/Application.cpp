@@ -4,9 +4,13 @@
 #include "app/MainMenu.h"
 #include "document/BookListDocument.h"
 #include "listwindow/BookListWindowController.h"
+#include "platform/widgets/WaitPanel.h"
 
 #include <QApplication>
 #include <QMainWindow>
+#include <QSessionManager>
+
+#include <algorithm>
 
 namespace tomely {
 
@@ -25,6 +29,8 @@ Application::Application(UserDefaults& defaults, Alerts& alerts, FilePanels& pan
     connect(&m_documents, &DocumentController::documentOpened, &m_startWindow, &QWidget::hide);
     connect(&m_documents, &DocumentController::documentClosed, this,
         &Application::showStartWindowWhenAlone);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &Application::askBeforeLogout,
+        Qt::DirectConnection);
     connect(&m_startWindow, &StartWindow::closedByUser, qApp, &QApplication::quit);
 }
 
@@ -54,13 +60,27 @@ void Application::comeForward()
     Document* const document = m_documents.currentDocument();
     if (document && document->mainWindow())
         document->mainWindow()->bringToFront();
-    else
+    else if (!WaitPanel::isWaiting()) // the first file is still being opened
         m_startWindow.present();
+}
+
+void Application::askBeforeLogout(QSessionManager& session)
+{
+    const bool isEdited = std::ranges::any_of(
+        m_documents.documents(), [](const auto& document) { return document->isDocumentEdited(); });
+    if (!isEdited)
+        return;
+    // The questions are answered later; until then the session has to wait.
+    session.cancel();
+    if (session.allowsInteraction())
+        quit(m_documents);
+    session.release();
 }
 
 void Application::showStartWindowWhenAlone()
 {
-    if (m_documents.documents().empty())
+    // On the way out it would only flash up.
+    if (m_documents.documents().empty() && !m_documents.isClosingAll())
         m_startWindow.present();
 }
 

@@ -9,6 +9,8 @@
 
 #include <QObject>
 
+class QSessionManager;
+
 namespace tomely {
 
 class BookListDocument;
@@ -36,6 +38,7 @@ private:
     std::unique_ptr<Document> makeDocument();
     BookListWindow* makeWindow(BookListDocument& document);
     void comeForward();
+    void askBeforeLogout(QSessionManager& session);
     void showStartWindowWhenAlone();
 
     UserDefaults& m_defaults;

@@ -36,7 +36,7 @@ QAction* addItem(QMenu& menu, const Item& item, Triggered triggered)
     QAction* const action = menu.addAction(QIcon::fromTheme(item.icon), item.text);
     action->setObjectName(item.name);
     if (item.keys != QKeySequence::UnknownKey)
-        action->setShortcuts(item.keys);
+        action->setShortcuts(shortcutsFor(item.keys));
     QObject::connect(action, &QAction::triggered, &menu, triggered);
     return action;
 }
@@ -120,6 +120,18 @@ void addMainMenu(QMainWindow& window, Document& document, DocumentController& do
 {
     addFileMenu(window, document, documents);
     addHelpMenu(window);
+}
+
+QList<QKeySequence> shortcutsFor(QKeySequence::StandardKey command)
+{
+    const QList<QKeySequence> keys = QKeySequence::keyBindings(command);
+    if (!keys.isEmpty())
+        return keys;
+    if (command == QKeySequence::SaveAs)
+        return {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)};
+    if (command == QKeySequence::Quit)
+        return {QKeySequence(Qt::CTRL | Qt::Key_Q)};
+    return {};
 }
 
 void quit(DocumentController& documents)

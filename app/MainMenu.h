@@ -2,6 +2,9 @@
 
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
+
 class QMainWindow;
 class QWidget;
 
@@ -12,6 +15,9 @@ class DocumentController;
 
 /// Adds the menus to a window of `document`. Everything must outlive the window.
 void addMainMenu(QMainWindow& window, Document& document, DocumentController& documents);
+
+/// The desktop's keys for a command, or the usual ones where the desktop has none for it.
+QList<QKeySequence> shortcutsFor(QKeySequence::StandardKey command);
 
 /// Closes all documents, asking where there are changes, and ends the program unless the person
 /// cancels.

@@ -1,5 +1,6 @@
 #include "app/StartWindow.h"
 
+#include "app/MainMenu.h"
 #include "platform/widgets/DocumentController.h"
 
 #include <QApplication>
@@ -59,6 +60,7 @@ StartWindow::StartWindow(DocumentController& documents) : m_documents(documents)
     setObjectName("startWindow"_L1);
     setWindowTitle(u"Tomely"_s);
     auto* const buttons = new QVBoxLayout;
+    buttons->setSpacing(8);
     QPushButton* const make =
         addButton(*buttons, "newCollection"_L1, tr("&New Collection"), "document-new"_L1);
     QPushButton* const open =
@@ -72,6 +74,7 @@ StartWindow::StartWindow(DocumentController& documents) : m_documents(documents)
     auto* const caption = new QLabel(tr("&Recent collections"));
     caption->setBuddy(m_recent);
     auto* const recent = new QVBoxLayout;
+    recent->setSpacing(6);
     recent->addWidget(caption);
     recent->addWidget(m_recent, 1);
 
@@ -90,7 +93,8 @@ StartWindow::StartWindow(DocumentController& documents) : m_documents(documents)
     connect(open, &QPushButton::clicked, this, [this] { m_documents.openWithPanel(this); });
     connect(quit, &QPushButton::clicked, this, &StartWindow::close);
     connect(m_recent, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
-        m_documents.openDocument(item->data(Qt::UserRole).toString());
+        if (item->flags() & Qt::ItemIsEnabled)
+            m_documents.openDocument(item->data(Qt::UserRole).toString());
     });
 }
 
@@ -125,7 +129,9 @@ void StartWindow::closeEvent(QCloseEvent* event)
 
 void StartWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->matches(QKeySequence::Quit) || event->matches(QKeySequence::Close))
+    const QKeySequence pressed(event->keyCombination());
+    if (shortcutsFor(QKeySequence::Quit).contains(pressed)
+        || shortcutsFor(QKeySequence::Close).contains(pressed))
         close();
     else
         QWidget::keyPressEvent(event);

@@ -93,7 +93,7 @@ int main(int argc, char* argv[])
     }
 
     tomely::UserDefaults defaults;
-    tomely::DesktopFilePanels panels;
+    tomely::DesktopFilePanels panels(alerts);
     tomely::Application program(defaults, alerts, panels);
     QObject::connect(&instance, &tomely::SingleInstance::filesRequested, &program,
         &tomely::Application::openForOtherStart);

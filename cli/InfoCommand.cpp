@@ -32,7 +32,7 @@ qint64 booksInGroup(const BookListDocument& document, const QString& groupKey)
 QString headings(const BookListDocument& document)
 {
     QStringList names;
-    for (const ColumnEntry* column : shownColumns(document))
+    for (const ColumnEntry* column : shownColumns(document.getListColumns()))
         names.append(column->getColumnName());
     return names.join(", "_L1);
 }
@@ -45,10 +45,10 @@ void runInfo(const Arguments& arguments, Output& output)
     printLine(output, u"version"_s, document->fileVersion());
     printLine(output, u"books"_s, document->getBookListSize());
     printLine(output, u"pictures"_s, pictureCount(*document));
-    for (const auto& [key, group] : document->getGroups().byKey()) {
-        printLine(output, "group "_L1 + key,
+    for (const GroupEntry* const group : document->getGroups().byName()) {
+        printLine(output, "group "_L1 + group->getKey(),
             u"%1 (%2 books)"_s.arg(
-                group.getGroupName(), QString::number(booksInGroup(*document, key))));
+                group->getGroupName(), QString::number(booksInGroup(*document, group->getKey()))));
     }
     printLine(output, u"last book number"_s, document->lastBookNumber());
     printLine(output, u"last group key"_s, document->lastGroupKey());

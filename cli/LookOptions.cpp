@@ -110,7 +110,7 @@ std::vector<PrintedColumn> printedColumns(const BookListDocument& document, cons
 {
     std::vector<PrintedColumn> printed;
     if (look.columns == LookOptions::Columns::Visible) {
-        for (const ColumnEntry* column : shownColumns(document))
+        for (const ColumnEntry* column : shownColumns(document.getListColumns()))
             printed.push_back(printedColumn(*column));
         return printed;
     }

@@ -28,17 +28,4 @@ qint64 pictureCount(const BookListDocument& document)
     return count;
 }
 
-std::vector<const ColumnEntry*> shownColumns(const BookListDocument& document)
-{
-    std::map<qint32, std::vector<const ColumnEntry*>> columnsAt;
-    for (const auto& [key, column] : document.getListColumns())
-        columnsAt[column.getPosition()].push_back(&column);
-    std::vector<const ColumnEntry*> shown;
-    qint32 position = 0;
-    for (auto place = columnsAt.find(position); place != columnsAt.end();
-         place = columnsAt.find(++position))
-        shown.insert(shown.end(), place->second.begin(), place->second.end());
-    return shown;
-}
-
 } // namespace tomely

@@ -242,7 +242,8 @@ std::optional<DocumentFailure> BookListDocument::writeToFile(
     const bool isFirstSave = filePath().isEmpty();
     auto failure = Document::writeToFile(path, progress);
     if (!failure && isFirstSave && m_services.defaults && !isDefaultFileConfigured())
-        offerAsDefaultFile();
+        QMetaObject::invokeMethod(
+            this, &BookListDocument::offerAsDefaultFile, Qt::QueuedConnection);
     return failure;
 }
 
@@ -276,6 +277,9 @@ void BookListDocument::offerAsDefaultFile()
     if (!m_services.alerts)
         return;
     QObject* const window = mainWindow() ? mainWindow()->windowObject() : nullptr;
+    // A save on the way to closing leaves no window to ask on.
+    if (window && !window->property("visible").toBool())
+        return;
     m_services.alerts->beginSheet(window,
         confirmationAlert(tr("Open this file when Tomely starts?\n\nYou may change this in "
                              "Preferences at any time.")),

@@ -188,6 +188,9 @@ protected:
 private:
     bool isDefaultFileConfigured() const;
     void storeAsDefaultFile();
+
+    /// Asks whether to open this file at the start. Comes after the save from the event loop, when
+    /// it is known whether the document stays.
     void offerAsDefaultFile();
 
     BookListServices m_services;

@@ -1,7 +1,5 @@
 #include "document/CollectionContents.h"
 
-#include <QStringList>
-
 using namespace Qt::StringLiterals;
 
 namespace tomely {
@@ -10,7 +8,7 @@ CollectionContents CollectionContents::makeNew()
 {
     CollectionContents contents;
     contents.initGroupEntries();
-    contents.labels = defaultCustomFieldLabels();
+    contents.initCustomFieldLabels();
     initListColumns(contents.columns, contents.labels);
     return contents;
 }
@@ -30,15 +28,8 @@ void CollectionContents::initGroupEntries()
 
 void CollectionContents::removeNonExistentGroup()
 {
-    for (const auto& [bookKey, book] : books) {
-        QStringList gone;
-        for (const GroupMembership::Entry& entry : book->getSelectedGroups()) {
-            if (!groups.contains(entry.key))
-                gone.append(entry.key);
-        }
-        for (const QString& groupKey : gone)
-            book->removeFromGroup(groupKey);
-    }
+    for (const auto& [bookKey, book] : books)
+        book->keepGroupsIf([this](const QString& groupKey) { return groups.contains(groupKey); });
 }
 
 } // namespace tomely

@@ -47,6 +47,9 @@ struct CollectionContents {
     /// Replaces the groups by the two default ones, and sorts by title.
     void initGroupEntries();
 
+    /// Replaces the labels by the default ones.
+    void initCustomFieldLabels() { labels = defaultCustomFieldLabels(); }
+
     /// Takes every membership of a group that does not exist out of the books.
     void removeNonExistentGroup();
 };

@@ -1,5 +1,6 @@
 #include "document/CollectionFile.h"
 
+#include "platform/ArchiveError.h"
 #include "platform/Archiver.h"
 #include "platform/Unarchiver.h"
 
@@ -74,7 +75,8 @@ private:
             if (!readRecord("GroupEntry"_L1, group,
                     [this] { return GroupEntry::initWithCoder(m_unarchiver); }))
                 return;
-            if (key.isEmpty() || m_contents.groups.contains(key)) {
+            // Group 0 is the library, and whoever selects a group needs its number.
+            if (keyNumber(key).value_or(0) < 1 || m_contents.groups.contains(key)) {
                 unplaced.push_back(group);
                 return;
             }
@@ -93,9 +95,11 @@ private:
     {
         m_contents.labels.clear();
         m_unarchiver.decodeDictionary([this] {
+            const qint64 offset = m_unarchiver.offset();
             const qint64 key = m_unarchiver.decodeNumber();
-            const QString label = m_unarchiver.decodeString();
-            m_contents.labels[static_cast<qint32>(key)] = label;
+            if (key != static_cast<qint32>(key))
+                throw ArchiveError(offset, u"a column key of more than 32 bits"_s);
+            m_contents.labels[static_cast<qint32>(key)] = m_unarchiver.decodeString();
         });
     }
 

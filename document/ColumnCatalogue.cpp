@@ -1,5 +1,6 @@
 #include "document/ColumnCatalogue.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -111,6 +112,24 @@ void initListColumns_CustomFields(ColumnDictionary& columns, const LabelDictiona
                 column.setFilterType(run.filterType);
         }
     }
+}
+
+std::vector<const ColumnEntry*> shownColumns(const ColumnDictionary& columns)
+{
+    std::vector<const ColumnEntry*> shown;
+    for (const auto& [key, column] : columns) {
+        if (column.isShown())
+            shown.push_back(&column);
+    }
+    std::ranges::stable_sort(shown, {}, &ColumnEntry::getPosition);
+    qint32 lastPosition = -1;
+    const auto gap = std::ranges::find_if(shown, [&lastPosition](const ColumnEntry* column) {
+        const bool isGap = column->getPosition() > lastPosition + 1;
+        lastPosition = column->getPosition();
+        return isGap;
+    });
+    shown.erase(gap, shown.end());
+    return shown;
 }
 
 QString customSelectionName(const QString& label)

@@ -8,6 +8,7 @@
 #include "model/KeyText.h"
 
 #include <map>
+#include <vector>
 
 namespace tomely {
 
@@ -26,6 +27,10 @@ void initListColumns(ColumnDictionary& columns, const LabelDictionary& labels);
 
 /// The part of it that concerns the custom fields.
 void initListColumns_CustomFields(ColumnDictionary& columns, const LabelDictionary& labels);
+
+/// The records that the list shows, from left to right: those at position 0, 1, 2 and so on. A gap
+/// in the positions hides every column behind it. The pointers are good until a record is added.
+std::vector<const ColumnEntry*> shownColumns(const ColumnDictionary& columns);
 
 /// "Custom: " and the label: the name of a custom column where columns are chosen.
 QString customSelectionName(const QString& label);

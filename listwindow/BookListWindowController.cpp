@@ -26,6 +26,7 @@ namespace tomely {
 namespace {
 
 constexpr int rowPadding = 8; // above and below a row's text together
+constexpr int statusMargin = 3;
 constexpr int firstSidebarWidth = 238; // a picture of 218 points and its margins
 constexpr int firstPreviewHeight = 330;
 
@@ -79,9 +80,12 @@ void BookListWindowController::buildBookTable()
     m_emptyText->setAlignment(Qt::AlignCenter);
     m_emptyText->setWordWrap(true);
     m_emptyText->setForegroundRole(QPalette::PlaceholderText);
+    m_emptyText->setBackgroundRole(QPalette::Base);
+    m_emptyText->setAutoFillBackground(true);
     m_ui->m_idListPages->addWidget(m_emptyText);
     m_idStatusText = new QLabel;
     m_idStatusText->setObjectName("m_idStatusText"_L1);
+    m_idStatusText->setMargin(statusMargin);
     m_ui->m_idStatusBar->addWidget(m_idStatusText);
 
     m_ui->m_idListSplitter->setStretchFactor(0, 0);
@@ -133,9 +137,12 @@ void BookListWindowController::showWindow()
         restoreLayout();
     m_bShowWindowCalled = true;
     WindowController::showWindow();
-    // Only a window on screen knows how wide its table is.
+    if (isFirstCall)
+        m_bookTable->setFocus();
+    // Only a window on screen knows how wide its table is; and the table itself does not know while
+    // the text for an empty collection stands in its place.
     if (isFirstCall && !m_document.isLoadeFromFile())
-        m_columns->shareWidthEvenly();
+        m_columns->shareWidthEvenly(m_ui->m_idListPages->width());
 }
 
 void BookListWindowController::restoreLayout()
@@ -146,11 +153,11 @@ void BookListWindowController::restoreLayout()
     const QRectF above = m_document.getSavedImageSplitterView1Size();
     const QRectF below = m_document.getSavedImageSplitterView2Size();
     if (above.height() != 0 || below.height() != 0)
-        getImageSplitter()->setSizes({qRound(above.height()), qRound(below.height())});
+        getImageSplitter()->setSizes({wholePoint(above.height()), wholePoint(below.height())});
     const QRectF left = m_document.getSavedListSplitterView1Size();
     const QRectF right = m_document.getSavedListSplitterView2Size();
     if (left.height() != 0 || right.height() != 0)
-        getListSplitter()->setSizes({qRound(left.width()), qRound(right.width())});
+        getListSplitter()->setSizes({wholePoint(left.width()), wholePoint(right.width())});
 }
 
 WindowLayout BookListWindowController::currentLayout()
@@ -287,6 +294,11 @@ void BookListWindowController::reloadTable()
     selection.setCurrentIndex(m_bookModel->index(row, 0), QItemSelectionModel::NoUpdate);
     selection.select(kept, QItemSelectionModel::ClearAndSelect);
     m_bookTable->verticalScrollBar()->setValue(scrolledTo);
+    // A row that is selected in another one's place must be seen.
+    if (row != oldRow) {
+        const int column = m_bookModel->columnOfKey(m_columns->firstColumnKey());
+        m_bookTable->scrollTo(m_bookModel->index(row, column));
+    }
     m_bookTable->horizontalScrollBar()->setValue(scrolledRight);
 }
 

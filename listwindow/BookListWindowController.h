@@ -51,6 +51,8 @@ public:
     WindowLayout currentLayout() override;
     void endGroupNameEditting() override;
 
+    void endEditing() override { endGroupNameEditting(); }
+
     /// The first call restores the layout that is saved with the document.
     void showWindow() override;
 

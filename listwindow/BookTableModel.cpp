@@ -45,7 +45,7 @@ QVariant BookTableModel::data(const QModelIndex& index, int role) const
 
 QVariant BookTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal)
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
     switch (role) {
     case Qt::DisplayRole:
@@ -64,10 +64,17 @@ int BookTableModel::columnOfKey(qint32 columnKey) const
     return place == m_keys.end() ? -1 : static_cast<int>(place - m_keys.begin());
 }
 
+int BookTableModel::columnOfRecord(const ColumnEntry& record) const
+{
+    const auto place = std::ranges::lower_bound(m_keys, record.getKey(), KeyOrder());
+    return place == m_keys.end() || *place != record.getKey()
+        ? -1
+        : static_cast<int>(place - m_keys.begin());
+}
+
 qint32 BookTableModel::keyOfColumn(int column) const
 {
-    constexpr qint32 noField = -1;
-    return keyNumber(m_keys.at(static_cast<std::size_t>(column))).value_or(noField);
+    return keyNumber(m_keys.at(static_cast<std::size_t>(column))).value_or(-1);
 }
 
 const ColumnEntry& BookTableModel::record(int column) const

@@ -29,7 +29,10 @@ public:
     /// The column of the model that shows the field `columnKey`, or -1.
     int columnOfKey(qint32 columnKey) const;
 
-    /// The column key of a column of the model.
+    /// The column of the model for one of the document's records, or -1.
+    int columnOfRecord(const ColumnEntry& record) const;
+
+    /// The column key of a column of the model; -1 for a record whose key is no number.
     qint32 keyOfColumn(int column) const;
 
     const ColumnEntry& record(int column) const;

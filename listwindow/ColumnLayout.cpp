@@ -4,6 +4,7 @@
 #include "listwindow/BookTableModel.h"
 #include "listwindow/engine/BookOrder.h"
 #include "listwindow/TomelyTableHeaderView.h"
+#include "platform/LenientNumbers.h"
 
 #include <QTableView>
 
@@ -32,33 +33,23 @@ TomelyTableHeaderView& installHeader(QTableView& table)
 } // namespace
 
 ColumnLayout::ColumnLayout(QTableView& table, BookTableModel& model, BookListDocument& document)
-    : m_table(table)
-    , m_model(model)
+    : m_model(model)
     , m_document(document)
     , m_header(installHeader(table))
 {
     connect(
         &m_header, &TomelyTableHeaderView::layoutChangedByUser, this, &ColumnLayout::changedByUser);
     connect(&m_header, &QHeaderView::sectionClicked, this,
-        [this](int column) { Q_EMIT headingClicked(m_model.keyOfColumn(column)); });
+        [this](int column) { Q_EMIT headingClicked(leadingInt(m_model.record(column).getKey())); });
 }
 
 void ColumnLayout::setupInitialColumns()
 {
     for (int column = 0; column < m_model.columnCount(); ++column)
         m_header.hideSection(column);
-    // A gap in the positions hides every column behind it.
     int place = 0;
-    for (qint32 position = 0;; ++position) {
-        const int placeBefore = place;
-        for (int column = 0; column < m_model.columnCount(); ++column) {
-            const ColumnEntry& record = m_model.record(column);
-            if (record.getPosition() == position)
-                showColumn(column, place++, record.getWidth());
-        }
-        if (place == placeBefore)
-            break;
-    }
+    for (const ColumnEntry* const record : shownColumns(m_document.getListColumns()))
+        showColumn(m_model.columnOfRecord(*record), place++, record->getWidth());
     updateCurrentColumnInfo();
 }
 
@@ -69,12 +60,11 @@ void ColumnLayout::showColumn(int column, int place, int width)
     m_header.resizeSection(column, width > 0 ? std::max(width, minimumWidth) : defaultWidth);
 }
 
-void ColumnLayout::shareWidthEvenly()
+void ColumnLayout::shareWidthEvenly(int available)
 {
     const int count = shownCount();
     if (count == 0)
         return;
-    const int available = m_table.viewport()->width();
     const int share = available / count;
     for (int place = 0; place < count; ++place) {
         const bool isLast = place == count - 1;

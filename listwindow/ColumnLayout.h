@@ -26,15 +26,15 @@ public:
     static constexpr int minimumWidth = 40;
     static constexpr int defaultWidth = 100;
 
-    /// Installs the header. Table, model and document must outlive the layout; the model is the
-    /// table's.
+    /// Installs the header, which belongs to the table. Table, model and document must outlive the
+    /// layout; the model is the table's.
     ColumnLayout(QTableView& table, BookTableModel& model, BookListDocument& document);
 
     /// Shows the columns of the records in their order.
     void setupInitialColumns();
 
-    /// Gives every shown column of a new document its even share of the table.
-    void shareWidthEvenly();
+    /// Gives every shown column of a new document its even share of the table's width.
+    void shareWidthEvenly(int available);
 
     /// Copies places and widths of the shown columns into the records; the others are hidden.
     void updateCurrentColumnInfo();
@@ -63,7 +63,6 @@ private:
     void showColumn(int column, int place, int width);
     int shownCount() const;
 
-    QTableView& m_table;
     BookTableModel& m_model;
     BookListDocument& m_document;
     TomelyTableHeaderView& m_header;

@@ -7,6 +7,8 @@
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace tomely {
 
 GroupSidebar::GroupSidebar(GroupTableView& table, BookListDocument& document)
@@ -17,7 +19,7 @@ GroupSidebar::GroupSidebar(GroupTableView& table, BookListDocument& document)
     m_table.setModel(m_model);
     connect(m_table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &GroupSidebar::bookGroupSelectionDidChange);
-    connect(m_model, &GroupTableModel::renameRequested, this, &GroupSidebar::renameGroup);
+    connect(m_model, &GroupTableModel::renameRequested, this, &GroupSidebar::noteRename);
 }
 
 void GroupSidebar::populateGroups()
@@ -65,6 +67,7 @@ bool GroupSidebar::groupsChanged()
 void GroupSidebar::endGroupNameEditting()
 {
     m_table.endEditing();
+    takeOverNames();
 }
 
 void GroupSidebar::bookGroupSelectionDidChange()
@@ -81,12 +84,26 @@ void GroupSidebar::bookGroupSelectionDidChange()
     Q_EMIT groupSelected(groupKey);
 }
 
-void GroupSidebar::renameGroup(const QString& groupKey, const QString& name)
+void GroupSidebar::noteRename(const QString& groupKey, const QString& name)
 {
-    GroupEntry* const group = m_document.getGroups().find(groupKey);
-    if (!group || group->getGroupName() == name)
+    // The rows move when the name is taken over: not before the table has closed its editor, and
+    // has found the row of the click that may have ended it.
+    m_renames.append({groupKey, name});
+    QMetaObject::invokeMethod(this, &GroupSidebar::takeOverNames, Qt::QueuedConnection);
+}
+
+void GroupSidebar::takeOverNames()
+{
+    for (const Rename& rename : std::exchange(m_renames, {}))
+        renameGroup(rename);
+}
+
+void GroupSidebar::renameGroup(const Rename& rename)
+{
+    GroupEntry* const group = m_document.getGroups().find(rename.groupKey);
+    if (!group || group->getGroupName() == rename.name)
         return;
-    group->setGroupName(name);
+    group->setGroupName(rename.name);
     m_document.groupsChanged();
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QList>
 #include <QObject>
 
 namespace tomely {
@@ -42,13 +43,21 @@ Q_SIGNALS:
     void groupSelected(qint32 groupKey);
 
 private:
+    struct Rename {
+        QString groupKey;
+        QString name;
+    };
+
     void handleDeletedGroup();
     void bookGroupSelectionDidChange();
-    void renameGroup(const QString& groupKey, const QString& name);
+    void noteRename(const QString& groupKey, const QString& name);
+    void takeOverNames();
+    void renameGroup(const Rename& rename);
 
     GroupTableView& m_table;
     BookListDocument& m_document;
     GroupTableModel* m_model; // owned as a child
+    QList<Rename> m_renames; // typed and not taken over yet
     qint32 m_nSelectedGroupKey = 0;
     bool m_bReloadingGroups = false;
 };

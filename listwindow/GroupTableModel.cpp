@@ -12,7 +12,7 @@ namespace tomely {
 GroupTableModel::GroupTableModel(const GroupDictionary& groups, QObject* parent)
     : QAbstractTableModel(parent)
     , m_groups(groups)
-    , m_aSortedGroups{{QString(), tr("Library")}}
+    , m_rows{{QString(), tr("Library")}}
     , m_libraryIcon(symbolicIcon(u"library"_s))
     , m_groupIcon(symbolicIcon(u"group"_s))
 {
@@ -21,9 +21,9 @@ GroupTableModel::GroupTableModel(const GroupDictionary& groups, QObject* parent)
 void GroupTableModel::populateGroups()
 {
     beginResetModel();
-    m_aSortedGroups.resize(1);
+    m_rows.resize(1);
     for (const GroupEntry* const group : m_groups.byName())
-        m_aSortedGroups.push_back({group->getKey(), group->getGroupName()});
+        m_rows.push_back({group->getKey(), group->getGroupName()});
     endResetModel();
 }
 
@@ -36,20 +36,20 @@ QString GroupTableModel::groupKeyTextOfRow(int row) const
 {
     if (row < 0 || row >= rowCount())
         return {};
-    return m_aSortedGroups[static_cast<std::size_t>(row)].key;
+    return m_rows[static_cast<std::size_t>(row)].key;
 }
 
 int GroupTableModel::rowOfGroupKey(qint32 groupKey) const
 {
     if (groupKey == 0)
         return libraryRow;
-    const auto place = std::ranges::find(m_aSortedGroups, keyText(groupKey), &Row::key);
-    return place == m_aSortedGroups.end() ? -1 : static_cast<int>(place - m_aSortedGroups.begin());
+    const auto place = std::ranges::find(m_rows, keyText(groupKey), &Row::key);
+    return place == m_rows.end() ? -1 : static_cast<int>(place - m_rows.begin());
 }
 
 int GroupTableModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_aSortedGroups.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int GroupTableModel::columnCount(const QModelIndex& parent) const
@@ -61,7 +61,7 @@ QVariant GroupTableModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid())
         return {};
-    const Row& row = m_aSortedGroups.at(static_cast<std::size_t>(index.row()));
+    const Row& row = m_rows.at(static_cast<std::size_t>(index.row()));
     if (role == Qt::AccessibleTextRole)
         return row.name;
     if (index.column() == IconColumn)

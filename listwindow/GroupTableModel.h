@@ -54,7 +54,7 @@ private:
     };
 
     const GroupDictionary& m_groups;
-    std::vector<Row> m_aSortedGroups; // the library included
+    std::vector<Row> m_rows; // the library, then m_aSortedGroups: the groups by name
     QIcon m_libraryIcon;
     QIcon m_groupIcon;
 };

@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMouseEvent>
 
 namespace tomely {
 
@@ -24,6 +25,8 @@ GroupTableView::GroupTableView(QWidget* parent) : QTableView(parent)
 
 void GroupTableView::endEditing()
 {
+    if (state() != EditingState)
+        return;
     // Not by moving the focus away, which does nothing in a window that is not the active one.
     if (auto* const editor = viewport()->findChild<QLineEdit*>()) {
         commitData(editor);
@@ -31,12 +34,28 @@ void GroupTableView::endEditing()
     }
 }
 
+bool GroupTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool isByKey = trigger == QAbstractItemView::EditKeyPressed;
+    return QTableView::edit(
+        isByKey ? index.siblingAtColumn(GroupTableModel::NameColumn) : index, trigger, event);
+}
+
 void GroupTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    // A new name sorts the groups anew, which has put its editor away by then.
+    if (editor->isHidden())
+        return;
     // Tab would go on to the next group; it only means that the name is complete.
     const bool movesOn = hint == QAbstractItemDelegate::EditNextItem
         || hint == QAbstractItemDelegate::EditPreviousItem;
     QTableView::closeEditor(editor, movesOn ? QAbstractItemDelegate::NoHint : hint);
+}
+
+void GroupTableView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() == Qt::NoButton)
+        QTableView::mouseMoveEvent(event);
 }
 
 void GroupTableView::resizeEvent(QResizeEvent* event)

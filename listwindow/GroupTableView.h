@@ -16,7 +16,13 @@ public:
     void endEditing();
 
 protected:
+    /// The key that edits a name does so wherever in the row the person clicked before.
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    using QTableView::edit;
+
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    /// Moving the mouse with its button down selects nothing else: the rows may move under it.
+    void mouseMoveEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 };
 

@@ -136,14 +136,14 @@ void setMissing(BookEntry& book, const BookField& field)
 
 GroupMembership readMembership(Unarchiver& unarchiver)
 {
-    GroupMembership groups;
+    std::vector<GroupMembership::Entry> entries;
     unarchiver.decodeInlineDictionary([&] {
         const QString storedKey = unarchiver.decodeString();
         const QString storedValue = unarchiver.decodeString();
         const QString key = normalizedKey(storedKey);
-        groups.insert(key, storedValue == storedKey ? key : storedValue);
+        entries.push_back({key, storedValue == storedKey ? key : storedValue});
     });
-    return groups;
+    return GroupMembership::fromEntries(std::move(entries));
 }
 
 } // namespace

@@ -262,6 +262,14 @@ public:
     /// Puts the book into a group; being in it already is fine.
     void addToGroup(const QString& groupKey);
 
+    /// Takes the book out of every group but those for which `isKept` holds of the key text.
+    template <class IsKept>
+    void keepGroupsIf(IsKept isKept)
+    {
+        m_dSelectedGroups.keepIf(isKept);
+        m_changeStamp.tick();
+    }
+
     /// Takes the book out of a group; false when it was not in.
     bool removeFromGroup(QStringView groupKey);
 

@@ -30,6 +30,22 @@ void GroupMembership::insert(const QString& key, const QString& value)
         m_entries.insert(place, {key, value});
 }
 
+GroupMembership GroupMembership::fromEntries(std::vector<Entry> entries)
+{
+    const auto before = [](const Entry& left, const Entry& right) {
+        return KeyOrder()(left.key, right.key);
+    };
+    std::ranges::stable_sort(entries, before);
+    GroupMembership groups;
+    for (Entry& entry : entries) {
+        if (!groups.m_entries.empty() && groups.m_entries.back().key == entry.key)
+            groups.m_entries.back() = std::move(entry);
+        else
+            groups.m_entries.push_back(std::move(entry));
+    }
+    return groups;
+}
+
 bool GroupMembership::remove(QStringView key)
 {
     const auto place = lowerBound(m_entries, key);

@@ -24,6 +24,16 @@ public:
     /// Adds a group with a value of its own, replacing the value that it had.
     void insert(const QString& key, const QString& value);
 
+    /// All entries at once, in any order; of equal keys the last one counts.
+    static GroupMembership fromEntries(std::vector<Entry> entries);
+
+    /// Keeps only the groups for which `isKept` holds of the key text.
+    template <class IsKept>
+    void keepIf(IsKept isKept)
+    {
+        std::erase_if(m_entries, [&isKept](const Entry& entry) { return !isKept(entry.key); });
+    }
+
     /// Takes a group out; false when it was not in.
     bool remove(QStringView key);
 

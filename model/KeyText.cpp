@@ -56,13 +56,14 @@ std::optional<qint32> keyNumber(QStringView key)
 
 QString normalizedKey(const QString& key)
 {
+    if (key.size() > longestKey)
+        return normalizedKey(key.left(longestKey));
     if (plainLength(key) > 0)
         return key;
     QString plain;
     for (const QChar character : key) {
-        const int digit = character.digitValue();
-        if (digit >= 0)
-            plain += QChar(u'0' + digit);
+        if (character.isDigit())
+            plain += QChar(u'0' + character.digitValue());
         else if (character == u'-' && plain.isEmpty())
             plain += character;
         else if (!isGroupingMark(character))

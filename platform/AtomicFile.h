@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "platform/FileSystemCalls.h"
+#include "platform/Progress.h"
 
 namespace tomely {
 
@@ -36,7 +37,7 @@ public:
 
     /// Called after every few megabytes and at the end. Each byte counts twice, once when it is
     /// written and once when it is checked: `total` is twice the size of the file.
-    using Progress = std::function<void(qint64 done, qint64 total)>;
+    using Progress = tomely::Progress;
 
     /// Makes the file at `path` hold exactly `bytes`. Symbolic links at `path` are followed and
     /// stay links (except with Replace::Never, where a link is an error). The new file takes over

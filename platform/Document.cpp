@@ -43,10 +43,10 @@ void Document::setUntitledName(const QString& name)
 std::optional<DocumentFailure> Document::readFromFile(const QString& path, const Progress& progress)
 {
     try {
-        const auto bytes = readWholeFile(path, progress);
+        const auto bytes = readWholeFile(path, halfOf(progress, 0));
         if (const QString* const error = std::get_if<QString>(&bytes))
             return DocumentFailure{*error};
-        if (auto failure = loadDataRepresentation(std::get<QByteArray>(bytes), progress))
+        if (auto failure = loadDataRepresentation(std::get<QByteArray>(bytes), halfOf(progress, 1)))
             return failure;
     } catch (const OperationCancelled&) {
         return DocumentFailure{.reason = {}, .cancelled = true};
@@ -62,8 +62,9 @@ std::optional<DocumentFailure> Document::readFromFile(const QString& path, const
 std::optional<DocumentFailure> Document::writeToFile(const QString& path, const Progress& progress)
 {
     try {
-        const QByteArray bytes = dataRepresentation(progress);
-        if (const FileResult result = AtomicFile::write(path, bytes, progress); !result.isOk())
+        const QByteArray bytes = dataRepresentation(halfOf(progress, 0));
+        if (const FileResult result = AtomicFile::write(path, bytes, halfOf(progress, 1));
+            !result.isOk())
             return DocumentFailure{result.error};
     } catch (const ArchiveError& error) {
         return DocumentFailure{error.message()};

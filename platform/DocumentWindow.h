@@ -16,6 +16,9 @@ public:
     /// Makes the window the one in front, also when it is minimised.
     virtual void bringToFront() = 0;
 
+    /// Takes over what is still being typed in a cell of the window.
+    virtual void endEditing() { }
+
     /// The window object, for alerts that belong to it; nullptr for a window without one.
     virtual QObject* windowObject() = 0;
 };

@@ -12,6 +12,9 @@ namespace tomely {
 /// throw OperationCancelled where the caller's documentation says that the work can be left.
 using Progress = std::function<void(qint64 done, qint64 total)>;
 
+/// One half of a piece of work that has two: `progress` is told of the first or second half of it.
+Progress halfOf(const Progress& progress, int half);
+
 /// What leaving a piece of work by its Cancel button throws.
 struct OperationCancelled { };
 

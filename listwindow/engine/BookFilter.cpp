@@ -69,8 +69,10 @@ bool BookFilter::passesFilter(const BookEntry& book) const
         return false;
     case ColumnKind::Text:
         return containsIgnoringCase(field->text(book), m_strFilter);
-    case ColumnKind::Date:
-        return checkDate(dateOfColumn(m_nSelectedFilter, book));
+    case ColumnKind::Date: {
+        const MonthYear date = dateOfColumn(m_nSelectedFilter, book);
+        return checkDateWithYear(date.year, date.month);
+    }
     case ColumnKind::Integer:
         return checkNumeric(field->integer(book));
     case ColumnKind::Real:
@@ -115,7 +117,7 @@ bool BookFilter::checkNumeric(double value) const
     return false;
 }
 
-bool BookFilter::checkDate(MonthYear date) const
+bool BookFilter::checkDateWithYear(qint32 year, qint32 month) const
 {
     const DateTest test = m_nFilterSelectionForDate;
     const bool isNotEqual = test == DateTest::NotEqual;
@@ -124,17 +126,17 @@ bool BookFilter::checkDate(MonthYear date) const
     if (wantedMonth == 0 && wantedYear == 0)
         return true;
     if (wantedMonth == 0)
-        return date.year == 0 ? isNotEqual : compareBy(test, date.year, wantedYear);
-    if (date.month == 0 && date.year == 0)
+        return year == 0 ? isNotEqual : compareBy(test, year, wantedYear);
+    if (month == 0 && year == 0)
         return isNotEqual;
     if (wantedYear == 0)
-        return date.month == 0 ? isNotEqual : compareBy(test, date.month, wantedMonth);
-    if (date.year == 0)
+        return month == 0 ? isNotEqual : compareBy(test, month, wantedMonth);
+    if (year == 0)
         return isNotEqual;
-    if (date.year != wantedYear) // which settles it, whatever the months
-        return compareBy(test, date.year, wantedYear);
-    const qint32 month = date.month != 0 ? date.month : substituteMonth(test, wantedMonth);
-    return compareBy(test, month, wantedMonth);
+    if (year != wantedYear) // which settles it, whatever the months
+        return compareBy(test, year, wantedYear);
+    const qint32 comparedMonth = month != 0 ? month : substituteMonth(test, wantedMonth);
+    return compareBy(test, comparedMonth, wantedMonth);
 }
 
 } // namespace tomely

@@ -57,7 +57,7 @@ struct BookFilter {
     /// How a date with missing parts compares: a book without the part that is asked for passes
     /// only "not equal"; one with a year but no month stands at the end of its year that makes the
     /// test hold for the year as a whole.
-    bool checkDate(MonthYear date) const;
+    bool checkDateWithYear(qint32 year, qint32 month) const;
 
     static bool checkTriState(TriState selection, bool isSet);
 };

@@ -1,6 +1,7 @@
 #include "listwindow/engine/BookIndex.h"
 
 #include "document/BookListDocument.h"
+#include "listwindow/engine/BookOrder.h"
 #include "listwindow/engine/ColumnKind.h"
 
 #include <algorithm>
@@ -40,6 +41,7 @@ BookIndex::Changes BookIndex::sync(const BookListDocument& document)
 void BookIndex::rebuild()
 {
     m_folded.clear();
+    m_sortKeys.clear();
     m_titleOrder.clear();
     m_titleRanks.clear();
     m_titleClasses.clear();
@@ -76,27 +78,46 @@ bool BookIndex::updateColumn(
 
 void BookIndex::update(const std::vector<Row>& rows, Row firstNew)
 {
+    for (auto& [columnKey, keys] : m_sortKeys) {
+        keys.resize(m_books.size());
+        for (const Row row : rows)
+            keys[row] = sortKey(*m_books[row], columnKey);
+    }
     for (auto& [columnKey, column] : m_folded) {
         const bool changed = updateColumn(columnKey, column, rows, firstNew);
-        if (!changed || columnKey != ColumnKey::Title || m_titleOrder.empty())
-            continue;
-        // Takes the changed books out and puts them back in at their new places.
-        std::vector<Row> moved = rows;
-        std::vector<bool> isMoved(m_books.size(), false);
-        for (const Row row : rows)
-            isMoved[row] = true;
-        std::erase_if(m_titleOrder, [&isMoved](Row row) { return isMoved[row]; });
-        const auto before = [&titles = column](Row left, Row right) {
-            const int compared = titles.text(left).compare(titles.text(right));
-            return compared != 0 ? compared < 0 : left < right;
-        };
-        std::ranges::sort(moved, before);
-        const auto middle = static_cast<std::ptrdiff_t>(m_titleOrder.size());
-        m_titleOrder.insert(m_titleOrder.end(), moved.begin(), moved.end());
-        std::inplace_merge(
-            m_titleOrder.begin(), m_titleOrder.begin() + middle, m_titleOrder.end(), before);
-        numberTitles();
+        if (changed && columnKey == ColumnKey::Title && !m_titleOrder.empty())
+            moveTitles(column, rows);
     }
+}
+
+void BookIndex::moveTitles(const FoldedColumn& titles, const std::vector<Row>& rows)
+{
+    std::vector<bool> isMoved(m_books.size(), false);
+    for (const Row row : rows)
+        isMoved[row] = true;
+    std::erase_if(m_titleOrder, [&isMoved](Row row) { return isMoved[row]; });
+    const auto middle = static_cast<std::ptrdiff_t>(m_titleOrder.size());
+    m_titleOrder.insert(m_titleOrder.end(), rows.begin(), rows.end());
+    const auto before = [&titles](Row left, Row right) {
+        const int compared = titles.text(left).compare(titles.text(right));
+        return compared != 0 ? compared < 0 : left < right;
+    };
+    std::sort(m_titleOrder.begin() + middle, m_titleOrder.end(), before);
+    std::inplace_merge(
+        m_titleOrder.begin(), m_titleOrder.begin() + middle, m_titleOrder.end(), before);
+    numberTitles();
+}
+
+const std::vector<quint64>& BookIndex::sortKeys(qint32 columnKey)
+{
+    const auto [place, isNew] = m_sortKeys.try_emplace(columnKey);
+    std::vector<quint64>& keys = place->second;
+    if (isNew) {
+        keys.resize(m_books.size());
+        std::ranges::transform(m_books, keys.begin(),
+            [columnKey](const BookEntry* book) { return sortKey(*book, columnKey); });
+    }
+    return keys;
 }
 
 void BookIndex::buildTitleOrder()
@@ -138,16 +159,22 @@ void BookIndex::numberTitles()
     }
 }
 
-const std::vector<quint32>& BookIndex::titleRanks()
+const std::vector<BookIndex::Row>& BookIndex::titleOrder()
 {
     if (m_titleOrder.size() != m_books.size())
         buildTitleOrder();
+    return m_titleOrder;
+}
+
+const std::vector<quint32>& BookIndex::titleRanks()
+{
+    titleOrder();
     return m_titleRanks;
 }
 
 const std::vector<quint32>& BookIndex::titleClasses()
 {
-    titleRanks();
+    titleOrder();
     return m_titleClasses;
 }
 

@@ -36,6 +36,13 @@ public:
     /// The folded texts of a text column; made when first asked for, kept up to date from then on.
     const FoldedColumn& folded(qint32 columnKey);
 
+    /// For each row the number that orders it by a column that is no text (see sortKey()); made
+    /// when first asked for, kept up to date from then on.
+    const std::vector<quint64>& sortKeys(qint32 columnKey);
+
+    /// The rows by title and number.
+    const std::vector<Row>& titleOrder();
+
     /// For each row its place when all books stand by title and number.
     const std::vector<quint32>& titleRanks();
 
@@ -47,6 +54,7 @@ private:
     void update(const std::vector<Row>& rows, Row firstNew);
     bool updateColumn(
         qint32 columnKey, FoldedColumn& column, const std::vector<Row>& rows, Row firstNew) const;
+    void moveTitles(const FoldedColumn& titles, const std::vector<Row>& rows);
     void buildTitleOrder();
     void numberTitles();
 
@@ -55,6 +63,7 @@ private:
     quint64 m_seenChange = 0;
     bool m_hasLooked = false;
     std::map<qint32, FoldedColumn> m_folded;
+    std::map<qint32, std::vector<quint64>> m_sortKeys;
     std::vector<Row> m_titleOrder; // empty until somebody asks
     std::vector<quint32> m_titleRanks;
     std::vector<quint32> m_titleClasses;

@@ -1,7 +1,6 @@
 #include "listwindow/engine/ListEngine.h"
 
 #include "document/BookListDocument.h"
-#include "listwindow/engine/ValueLists.h"
 #include "model/CaseFolding.h"
 
 #include <algorithm>
@@ -13,7 +12,9 @@ void ListEngine::loadBookKeys()
     const BookIndex::Changes changes = m_index.sync(m_document);
     sortBooks(changes);
     if (m_bBooksChanged)
-        collectValueLists(m_document);
+        m_valueLists.update(m_document, m_index, changes);
+    else if (!changes.isEmpty())
+        m_valueLists.invalidate();
     m_bBooksChanged = false;
 
     markGroup(changes);

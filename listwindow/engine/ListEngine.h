@@ -6,6 +6,7 @@
 #include "listwindow/engine/BookFilter.h"
 #include "listwindow/engine/BookIndex.h"
 #include "listwindow/engine/ListOrder.h"
+#include "listwindow/engine/ValueLists.h"
 
 #include <vector>
 
@@ -45,6 +46,7 @@ private:
     ListOrder m_order;
     std::vector<BookEntry*> m_aSortedBooks;
     std::vector<BookEntry*> m_aDisplayedBooks;
+    ValueLists m_valueLists;
     bool m_bBooksChanged = true;
     std::vector<quint8> m_isInGroup; // by row; good for m_markedGroup
     qint32 m_markedGroup = -1;

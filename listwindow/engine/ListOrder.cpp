@@ -4,6 +4,8 @@
 #include "listwindow/engine/ColumnKind.h"
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 
 namespace tomely {
 
@@ -35,6 +37,29 @@ struct RecordOrder {
     }
 };
 
+/// Sorts by the keys alone and leaves equal ones in the order in which they stood: byte by byte
+/// from the lowest, which costs a pass for each byte that is not the same in all keys.
+void sortByKey(std::vector<Record>& records, bool descending)
+{
+    constexpr int byteValues = 256;
+    std::vector<Record> sorted(records.size());
+    for (int shift = 0; shift < 64; shift += 8) {
+        const auto digit = [shift, descending](const Record& record) {
+            const auto byte = static_cast<std::size_t>((record.key >> shift) & 0xFF);
+            return descending ? byteValues - 1 - byte : byte;
+        };
+        std::array<std::size_t, byteValues> places{};
+        for (const Record& record : records)
+            ++places[digit(record)];
+        if (std::ranges::find(places, records.size()) != places.end())
+            continue;
+        std::exclusive_scan(places.begin(), places.end(), places.begin(), std::size_t(0));
+        for (const Record& record : records)
+            sorted[places[digit(record)]++] = record;
+        records.swap(sorted);
+    }
+}
+
 RecordOrder recordOrder(BookIndex& index, qint32 sortField)
 {
     const SortField sort = SortField::of(sortField);
@@ -51,7 +76,7 @@ ListOrder::Record ListOrder::makeRecord(BookIndex& index, Row row) const
         return {index.titleClasses()[row], rank, row};
     if (needsTexts(columnKey))
         return {index.folded(columnKey).prefix(row), rank, row};
-    return {sortKey(*index.books()[row], columnKey), rank, row};
+    return {index.sortKeys(columnKey)[row], rank, row};
 }
 
 bool ListOrder::update(BookIndex& index, const BookIndex::Changes& changes, qint32 sortField)
@@ -69,11 +94,24 @@ bool ListOrder::update(BookIndex& index, const BookIndex::Changes& changes, qint
 
 void ListOrder::sortAll(BookIndex& index)
 {
+    // From the order by title, so that a stable sort by the key leaves equal ones as they must
+    // stand.
     m_records.clear();
     m_records.reserve(index.rowCount());
-    for (Row row = 0; row < index.rowCount(); ++row)
+    for (const Row row : index.titleOrder())
         m_records.push_back(makeRecord(index, row));
-    std::ranges::sort(m_records, recordOrder(index, *m_sortField));
+    const RecordOrder before = recordOrder(index, *m_sortField);
+    sortByKey(m_records, before.descending);
+    if (!before.texts)
+        return;
+    for (auto run = m_records.begin(); run != m_records.end();) {
+        const auto runEnd = std::find_if(
+            run, m_records.end(), [key = run->key](const Record& next) { return next.key != key; });
+        // Books of one author or place are many and stand as they must already.
+        if (!std::is_sorted(run, runEnd, before))
+            std::sort(run, runEnd, before);
+        run = runEnd;
+    }
 }
 
 void ListOrder::moveRows(BookIndex& index, const std::vector<Row>& rows)

@@ -31,6 +31,13 @@ QWidget* windowOf(const Document& document)
     return window ? qobject_cast<QWidget*>(window->windowObject()) : nullptr;
 }
 
+/// What is being typed in a window is a change like any other.
+void endEditing(const Document& document)
+{
+    for (const auto& window : document.windowControllers())
+        window->endEditing();
+}
+
 void answer(const DocumentController::Done& done, bool happened)
 {
     if (done)
@@ -213,6 +220,7 @@ void DocumentController::revert(Document& document, Done done)
 {
     if (WaitPanel::isWaiting() || document.filePath().isEmpty())
         return answer(done, false);
+    endEditing(document);
     if (!document.isDocumentEdited())
         return reopen(document, done);
     if (DocumentWindow* const window = document.mainWindow())
@@ -247,6 +255,7 @@ void DocumentController::close(Document& document, Done done)
 {
     if (WaitPanel::isWaiting())
         return answer(done, false);
+    endEditing(document);
     if (document.isDocumentEdited())
         return askToSave(document, std::move(done));
     remove(document);
@@ -284,12 +293,17 @@ void DocumentController::askToSave(Document& document, Done done)
 
 void DocumentController::closeAll(Done done)
 {
-    if (m_documents.empty())
-        return answer(done, true);
+    m_isClosingAll = true;
+    if (m_documents.empty()) {
+        answer(done, true);
+        m_isClosingAll = false;
+        return;
+    }
     close(*m_documents.back(), [this, done = std::move(done)](bool closed) {
-        if (!closed)
-            return answer(done, false);
-        closeAll(done);
+        if (closed)
+            return closeAll(done);
+        m_isClosingAll = false;
+        answer(done, false);
     });
 }
 

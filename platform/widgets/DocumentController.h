@@ -76,6 +76,9 @@ public:
     /// Closes all documents one after another, until the person cancels.
     void closeAll(Done done = {});
 
+    /// True from a call of closeAll() until it is done.
+    bool isClosingAll() const { return m_isClosingAll; }
+
     /// Paths, the latest first.
     QStringList recentDocuments() const;
     void clearRecentDocuments();
@@ -105,6 +108,7 @@ private:
     Document* m_current = nullptr;
     std::set<const Document*> m_asked; // whose "save the changes?" is on screen
     int m_untitledCount = 0;
+    bool m_isClosingAll = false;
 };
 
 } // namespace tomely

@@ -1,8 +1,8 @@
 #include "platform/widgets/FilePanels.h"
 
 #include "platform/Alerts.h"
-#include "platform/widgets/MessageBoxAlerts.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -63,16 +63,16 @@ void DesktopFilePanels::beginSavePanel(QWidget* window, const FileType& type,
     if (suggested.isAbsolute())
         panel->setDirectory(suggested.absolutePath());
     panel->selectFile(suggested.fileName());
-    QObject::connect(panel, &QDialog::finished, panel, [panel, type, picked](int result) {
+    QObject::connect(panel, &QDialog::finished, panel, [this, panel, type, picked](int result) {
         panel->deleteLater();
         const QString chosen =
             result == QDialog::Accepted ? panel->selectedFiles().value(0) : u""_s;
         const QString path = withExtension(chosen, type);
         // The panel asked about the name that was typed, not about the one with the extension.
         if (path != chosen && QFileInfo::exists(path)) {
-            const QString question =
-                QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
-            MessageBoxAlerts().beginSheet(panel->parentWidget(),
+            const QString question = QCoreApplication::translate(
+                "FilePanels", "'%1' already exists.\n\nDo you want to replace it?");
+            m_alerts.beginSheet(panel->parentWidget(),
                 confirmationAlert(question.arg(QFileInfo(path).fileName())),
                 [path, picked](int button) { picked(button == 0 ? path : QString()); });
             return;

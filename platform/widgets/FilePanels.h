@@ -13,6 +13,8 @@ class QWidget;
 
 namespace tomely {
 
+class Alerts;
+
 /// What kind of file a panel is about.
 struct FileType {
     QString extension; // without the dot
@@ -45,11 +47,17 @@ QString withExtension(const QString& path, const FileType& type);
 /// The desktop's own panels.
 class DesktopFilePanels : public FilePanels {
 public:
+    /// The alerts must outlive the panels.
+    explicit DesktopFilePanels(Alerts& alerts) : m_alerts(alerts) { }
+
     QString runModalOpenPanel(const FileType& type, const QString& folder) override;
     void beginOpenPanel(QWidget* window, const FileType& type,
         std::function<void(const QStringList& paths)> picked) override;
     void beginSavePanel(QWidget* window, const FileType& type, const QString& suggestedPath,
         std::function<void(const QString& path)> picked) override;
+
+private:
+    Alerts& m_alerts;
 };
 
 } // namespace tomely

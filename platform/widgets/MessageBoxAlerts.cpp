@@ -17,6 +17,14 @@ QString buttonName(qsizetype index)
     return "alertButton"_L1 + QString::number(index);
 }
 
+/// What a person typed (a title with angle brackets) shows as it is only when it is escaped; and
+/// the label takes a text for escaped only when it holds a tag.
+QString asRichText(const QString& text)
+{
+    return "<span style='white-space: pre-wrap'>%1</span>"_L1.arg(
+        text.toHtmlEscaped().replace(u'\n', "<br>"_L1));
+}
+
 std::unique_ptr<QMessageBox> makeBox(const Alert& alert, QWidget* parent)
 {
     auto box = std::make_unique<QMessageBox>(parent);
@@ -24,8 +32,7 @@ std::unique_ptr<QMessageBox> makeBox(const Alert& alert, QWidget* parent)
     box->setWindowTitle(u"Tomely"_s);
     box->setText(u"<b>Tomely</b>"_s);
     box->setTextFormat(Qt::RichText);
-    // Rich text keeps what a person typed (a title with angle brackets) only when it is escaped.
-    box->setInformativeText(alert.informativeText.toHtmlEscaped().replace(u'\n', "<br>"_L1));
+    box->setInformativeText(asRichText(alert.informativeText));
     box->setIcon(alert.buttons.size() > 1 ? QMessageBox::Question : QMessageBox::Information);
     for (qsizetype index = 0; index < alert.buttons.size(); ++index) {
         const auto role = index == alert.escapeButton ? QMessageBox::RejectRole

@@ -30,6 +30,8 @@ bool platformTellsPositions()
     return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
+} // namespace
+
 int wholePoint(double value)
 {
     // A value that is no number comes out as 0.
@@ -37,8 +39,6 @@ int wholePoint(double value)
         ? 0
         : static_cast<int>(std::lround(std::clamp(value, -largestCoordinate, largestCoordinate)));
 }
-
-} // namespace
 
 QRectF frameForFile(const QRect& frame, const QRect& primaryScreen)
 {
@@ -96,12 +96,14 @@ void FrameRestorer::restore(QWidget& window, const QRectF& frame)
     QList<QRect> screens;
     for (const QScreen* const screen : QGuiApplication::screens())
         screens.append(screen->availableGeometry());
-    const QRect wanted = frameWithinReach(
-        frameFromFile(frame, QGuiApplication::primaryScreen()->geometry()), screens);
+    QRect stored = frameFromFile(frame, QGuiApplication::primaryScreen()->geometry());
+    // A damaged file must not make a window that takes all memory.
+    stored.setSize(
+        stored.size().boundedTo(QGuiApplication::primaryScreen()->availableVirtualSize()));
+    const QRect wanted = frameWithinReach(stored, screens);
     window.resize(wanted.size());
-    if (!platformTellsPositions())
-        return;
-    window.move(wanted.topLeft());
+    if (platformTellsPositions())
+        window.move(wanted.topLeft());
     new FrameRestorer(window, wanted); // owned by the window
 }
 
@@ -111,7 +113,8 @@ bool FrameRestorer::eventFilter(QObject* watched, QEvent* event)
     if (m_window.isVisible() && !borders.isNull()) {
         m_window.removeEventFilter(this);
         m_window.resize(m_frame.size() - borders);
-        m_window.move(m_frame.topLeft());
+        if (platformTellsPositions())
+            m_window.move(m_frame.topLeft());
         deleteLater();
     }
     return QObject::eventFilter(watched, event);

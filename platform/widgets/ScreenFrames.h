@@ -12,6 +12,10 @@ class QWidget;
 
 namespace tomely {
 
+/// A coordinate from a file as a whole number of points that a screen can have; 0 for "not a
+/// number".
+int wholePoint(double value);
+
 /// A frame of the toolkit (y downwards) as a file holds it.
 QRectF frameForFile(const QRect& frame, const QRect& primaryScreen);
 

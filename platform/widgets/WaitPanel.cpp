@@ -1,5 +1,6 @@
 #include "platform/widgets/WaitPanel.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QProgressBar>
@@ -14,6 +15,31 @@ namespace {
 constexpr qint64 showAfterMilliseconds = 300;
 constexpr qint64 repaintEveryMilliseconds = 30;
 constexpr int barSteps = 1000;
+
+/// A panel without a Cancel button stays until the work is done: neither Escape nor closing it may
+/// give the program's windows back to the person before.
+class Panel : public QProgressDialog {
+public:
+    Panel(QWidget* parent, WaitPanel::Cancel cancel) : QProgressDialog(parent), m_cancel(cancel) { }
+
+    void reject() override
+    {
+        if (m_cancel == WaitPanel::Cancel::Possible)
+            QProgressDialog::reject();
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (m_cancel == WaitPanel::Cancel::Possible)
+            QProgressDialog::closeEvent(event);
+        else
+            event->ignore();
+    }
+
+private:
+    WaitPanel::Cancel m_cancel;
+};
 
 } // namespace
 
@@ -30,6 +56,7 @@ WaitPanel::WaitPanel(QWidget* parent, const QString& text, Cancel cancel)
 WaitPanel::~WaitPanel()
 {
     --s_waiting;
+    delete m_dialog;
 }
 
 Progress WaitPanel::progress()
@@ -41,7 +68,7 @@ Progress WaitPanel::progress()
 
 void WaitPanel::show()
 {
-    m_dialog = std::make_unique<QProgressDialog>(m_parent);
+    m_dialog = new Panel(m_parent, m_cancel);
     m_dialog->setObjectName(QLatin1StringView("waitPanel"));
     m_dialog->setLabelText(m_text);
     m_dialog->setRange(0, barSteps);
@@ -69,7 +96,7 @@ void WaitPanel::report(qint64 done, qint64 total)
         m_dialog->setValue(static_cast<int>(done * barSteps / total));
     // The panel is modal to the whole program, so input reaches nothing but its Cancel button.
     QCoreApplication::processEvents(QEventLoop::AllEvents);
-    if (m_cancel == Cancel::Possible && m_dialog->wasCanceled())
+    if (m_cancel == Cancel::Possible && m_dialog && m_dialog->wasCanceled())
         throw OperationCancelled();
 }
 

@@ -10,8 +10,6 @@
 #include <QPointer>
 #include <QString>
 
-#include <memory>
-
 class QProgressDialog;
 class QWidget;
 
@@ -44,7 +42,7 @@ private:
     Cancel m_cancel;
     QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceReport;
-    std::unique_ptr<QProgressDialog> m_dialog;
+    QPointer<QProgressDialog> m_dialog; // owned; also destroyed with its parent
 
     static inline int s_waiting = 0;
 };

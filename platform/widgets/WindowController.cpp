@@ -9,16 +9,28 @@ using namespace Qt::StringLiterals;
 
 namespace tomely {
 
+namespace {
+
+/// In a title "[*]" is where the mark for unsaved changes goes; doubled it is itself.
+QString withMark(QString title)
+{
+    return title.replace("[*]"_L1, "[*][*]"_L1) + "[*]"_L1;
+}
+
+} // namespace
+
 WindowController::WindowController(Document& document)
     : m_document(document)
     , m_window(new QMainWindow)
 {
     m_window->installEventFilter(this);
     connect(&document, &Document::nameChanged, this, &WindowController::updateTitle);
-    connect(&document, &Document::editedChanged, this,
-        [this](bool edited) { m_window->setWindowModified(edited); });
+    connect(&document, &Document::editedChanged, this, [this](bool edited) {
+        if (m_window)
+            m_window->setWindowModified(edited);
+    });
     m_window->setWindowModified(document.isDocumentEdited());
-    m_window->setWindowTitle(document.displayName() + "[*]"_L1);
+    m_window->setWindowTitle(withMark(document.displayName()));
 }
 
 WindowController::~WindowController()
@@ -54,24 +66,21 @@ QString WindowController::windowTitle() const
 
 void WindowController::updateTitle()
 {
-    // In a title "[*]" is where the mark for unsaved changes goes; doubled it is itself.
-    QString title = windowTitle();
-    title.replace("[*]"_L1, "[*][*]"_L1);
-    m_window->setWindowTitle(title + "[*]"_L1);
+    if (!m_window)
+        return;
+    m_window->setWindowTitle(withMark(windowTitle()));
     m_window->setWindowFilePath(m_document.filePath());
 }
 
 bool WindowController::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_window) {
-        if (event->type() == QEvent::Close) {
-            event->ignore();
-            Q_EMIT closeRequested();
-            return true;
-        }
-        if (event->type() == QEvent::WindowActivate)
-            Q_EMIT activated();
+    if (event->type() == QEvent::Close && watched == m_window) {
+        event->ignore();
+        Q_EMIT closeRequested();
+        return true;
     }
+    if (event->type() == QEvent::WindowActivate && watched == m_window)
+        Q_EMIT activated();
     return QObject::eventFilter(watched, event);
 }
 

@@ -57,7 +57,7 @@ void setPositions(BookListDocument& document, const std::map<QString, qint32>& p
 QString shownKeys(const BookListDocument& document)
 {
     QStringList keys;
-    for (const ColumnEntry* column : shownColumns(document))
+    for (const ColumnEntry* column : shownColumns(document.getListColumns()))
         keys.append(column->getKey());
     return keys.join(u' ');
 }

@@ -6,6 +6,7 @@
 #include "tests/support/ContentsText.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -152,6 +153,7 @@ private Q_SLOTS:
     void dropsGroupingMarksEverywhere_data();
     void dropsGroupingMarksEverywhere();
     void takesARecordReferredToTwiceAsTwoBooks();
+    void refusesALabelThatNoColumnCanHave();
     void refusesANewerVersion();
 
 private:
@@ -177,7 +179,7 @@ void CollectionFixturesTest::addFiles()
 void CollectionFixturesTest::findsTheFixtures()
 {
     const QDir folder(fixturePath({}));
-    QCOMPARE(folder.entryList({u"*.books"_s}, QDir::Files).size(), 30);
+    QCOMPARE(folder.entryList({u"*.books"_s}, QDir::Files).size(), 31);
 }
 
 void CollectionFixturesTest::readsTheBooks_data()
@@ -359,6 +361,17 @@ void CollectionFixturesTest::takesARecordReferredToTwiceAsTwoBooks()
     first->setTitle(u"Another"_s);
     QCOMPARE(second->getTitle(), u"Ann"_s);
     QCOMPARE(document.getListColumns().at(u"40"_s).getWidth(), 180);
+}
+
+void CollectionFixturesTest::refusesALabelThatNoColumnCanHave()
+{
+    BytesDocument document;
+    const QStringList before = samples::linesOf(document);
+    const auto failure = document.load(fixture(u"large-label.books"_s));
+    QVERIFY(failure);
+    QVERIFY2(failure->reason.contains(QRegularExpression(u"column key.* at offset \\d+$"_s)),
+        qPrintable(failure->reason));
+    QCOMPARE(samples::linesOf(document), before);
 }
 
 void CollectionFixturesTest::refusesANewerVersion()

@@ -5,7 +5,7 @@
 #include "tests/support/FakeAlerts.h"
 #include "tests/support/FakeBookListWindow.h"
 
-#include <QDir>
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -22,6 +22,14 @@ BookListServices servicesOf(Alerts* alerts, UserDefaults* defaults)
     services.alerts = alerts;
     services.defaults = defaults;
     return services;
+}
+
+/// Saves, and lets what is to come after a save come; false when the save failed.
+bool isSaved(BookListDocument& document, const QString& path)
+{
+    const auto failure = document.writeToFile(path);
+    QCoreApplication::sendPostedEvents();
+    return !failure;
 }
 
 /// A person's settings and files in a folder that goes with the test.
@@ -78,6 +86,9 @@ private Q_SLOTS:
     void offersNothingForADocumentThatWasOpened();
     void offersNothingWhenTheSaveFails();
     void offersNothingWithoutServices();
+    void offersWhenTheEventLoopIsReached();
+    void offersNothingWhenTheWindowIsClosed();
+    void survivesTheDocumentsEndBeforeTheOffer();
     void survivesAnAnswerAfterTheDocument();
     void storesTheCurrentPath();
     void completesSettingsThatKnowOnlyThePath_data();
@@ -92,7 +103,7 @@ void DefaultCollectionTest::offersAfterTheFirstSave()
     Desktop desktop;
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
     QCOMPARE(desktop.alerts.sheets.size(), 1);
     QVERIFY(desktop.alerts.modals.isEmpty());
     const FakeAlerts::Sheet& sheet = desktop.alerts.sheets.first();
@@ -110,7 +121,7 @@ void DefaultCollectionTest::storesTheFileOnYes()
     const QString path = desktop.path(u"new.books"_s);
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(path));
+    QVERIFY(isSaved(document, path));
     desktop.alerts.sheets.first().answered(0);
     QCOMPARE(desktop.storedDefaultFile(), path);
     QCOMPARE(resolveBookmark(desktop.storedBookmark()), std::optional<QString>(path));
@@ -130,7 +141,7 @@ void DefaultCollectionTest::storesNothingOnAnythingElse()
     Desktop desktop;
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
     desktop.alerts.sheets.first().answered(button);
     QVERIFY(!desktop.defaults.contains(DefaultFile));
     QVERIFY(!desktop.defaults.contains(BookmarkData));
@@ -142,7 +153,7 @@ void DefaultCollectionTest::offersNothingWhenADefaultFileIsConfigured()
     desktop.defaults.setString(DefaultFile, u"/elsewhere/default.books"_s);
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
     QVERIFY(desktop.alerts.sheets.isEmpty());
     QCOMPARE(desktop.defaults.stringForKey(DefaultFile), u"/elsewhere/default.books"_s);
 }
@@ -153,7 +164,7 @@ void DefaultCollectionTest::offersWhenTheDefaultFileIsEmpty()
     desktop.defaults.setString(DefaultFile, u""_s);
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
     QCOMPARE(desktop.alerts.sheets.size(), 1);
 }
 
@@ -162,10 +173,10 @@ void DefaultCollectionTest::offersNothingForADocumentThatHadAFile()
     Desktop desktop;
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
     desktop.alerts.sheets.clear();
-    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
-    QVERIFY(!document.writeToFile(desktop.path(u"under another name.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"under another name.books"_s)));
     QVERIFY(desktop.alerts.sheets.isEmpty());
 }
 
@@ -175,7 +186,7 @@ void DefaultCollectionTest::offersNothingForADocumentThatWasOpened()
     BookListDocument document(desktop.services());
     QVERIFY(!document.readFromFile(desktop.savedCollection(u"old.books"_s)));
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(desktop.path(u"under another name.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"under another name.books"_s)));
     QVERIFY(desktop.alerts.sheets.isEmpty());
 }
 
@@ -185,11 +196,11 @@ void DefaultCollectionTest::offersNothingWhenTheSaveFails()
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
     document.windowLayoutChanged();
-    QVERIFY(document.writeToFile(desktop.path(u"no such folder/new.books"_s)));
+    QVERIFY(!isSaved(document, desktop.path(u"no such folder/new.books"_s)));
     QVERIFY(desktop.alerts.sheets.isEmpty());
     QVERIFY(document.filePath().isEmpty());
     QVERIFY(document.isDocumentEdited());
-    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
     QCOMPARE(desktop.alerts.sheets.size(), 1);
 }
 
@@ -197,15 +208,49 @@ void DefaultCollectionTest::offersNothingWithoutServices()
 {
     Desktop desktop;
     BookListDocument withoutDefaults(servicesOf(&desktop.alerts, nullptr));
-    QVERIFY(!withoutDefaults.writeToFile(desktop.path(u"a.books"_s)));
+    QVERIFY(isSaved(withoutDefaults, desktop.path(u"a.books"_s)));
     QVERIFY(desktop.alerts.sheets.isEmpty());
     BookListDocument withoutAlerts(servicesOf(nullptr, &desktop.defaults));
-    QVERIFY(!withoutAlerts.writeToFile(desktop.path(u"b.books"_s)));
+    QVERIFY(isSaved(withoutAlerts, desktop.path(u"b.books"_s)));
     QVERIFY(!desktop.defaults.contains(DefaultFile));
     BookListDocument withoutWindow(servicesOf(&desktop.alerts, &desktop.defaults));
-    QVERIFY(!withoutWindow.writeToFile(desktop.path(u"c.books"_s)));
+    QVERIFY(isSaved(withoutWindow, desktop.path(u"c.books"_s)));
     QCOMPARE(desktop.alerts.sheets.size(), 1);
     QVERIFY(!desktop.alerts.sheets.first().window);
+}
+
+void DefaultCollectionTest::offersWhenTheEventLoopIsReached()
+{
+    Desktop desktop;
+    BookListDocument document(desktop.services());
+    document.makeWindowControllers();
+    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    QVERIFY(desktop.alerts.sheets.isEmpty());
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(desktop.alerts.sheets.size(), 1);
+}
+
+void DefaultCollectionTest::offersNothingWhenTheWindowIsClosed()
+{
+    Desktop desktop;
+    BookListDocument document(desktop.services());
+    document.makeWindowControllers();
+    QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    desktop.window->setVisible(false);
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(desktop.alerts.sheets.isEmpty());
+}
+
+void DefaultCollectionTest::survivesTheDocumentsEndBeforeTheOffer()
+{
+    Desktop desktop;
+    {
+        BookListDocument document(desktop.services());
+        document.makeWindowControllers();
+        QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+    }
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(desktop.alerts.sheets.isEmpty());
 }
 
 void DefaultCollectionTest::survivesAnAnswerAfterTheDocument()
@@ -214,7 +259,7 @@ void DefaultCollectionTest::survivesAnAnswerAfterTheDocument()
     {
         BookListDocument document(desktop.services());
         document.makeWindowControllers();
-        QVERIFY(!document.writeToFile(desktop.path(u"new.books"_s)));
+        QVERIFY(isSaved(document, desktop.path(u"new.books"_s)));
     }
     desktop.alerts.sheets.first().answered(0);
     QVERIFY(!desktop.defaults.contains(DefaultFile));
@@ -226,8 +271,8 @@ void DefaultCollectionTest::storesTheCurrentPath()
     const QString second = desktop.path(u"second.books"_s);
     BookListDocument document(desktop.services());
     document.makeWindowControllers();
-    QVERIFY(!document.writeToFile(desktop.path(u"first.books"_s)));
-    QVERIFY(!document.writeToFile(second));
+    QVERIFY(isSaved(document, desktop.path(u"first.books"_s)));
+    QVERIFY(isSaved(document, second));
     desktop.alerts.sheets.first().answered(0);
     QCOMPARE(desktop.storedDefaultFile(), second);
     QCOMPARE(resolveBookmark(desktop.storedBookmark()), std::optional<QString>(second));

@@ -321,6 +321,7 @@ void BookEntryTest::tellsThatItChanged()
         [](BookEntry& book) { book.addToGroup(u"1"_s); },
         [](BookEntry& book) { book.removeFromGroup(u"1"); },
         [](BookEntry& book) { book.setSelectedGroups({}); },
+        [](BookEntry& book) { book.keepGroupsIf([](const QString&) { return false; }); },
         [](BookEntry& book) {
             book.setImageData(5, "x");
         }};

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void enumeratesByNumber();
     void removesGroups();
     void findsGroupsByNumber();
+    void takesManyEntriesAtOnce();
+    void keepsSomeGroups();
     void comparesKeysAndValues();
 };
 
@@ -104,6 +106,22 @@ void GroupMembershipTest::findsGroupsByNumber()
     QVERIFY(!groups.contains(0));
     QVERIFY(groups.contains(u"1000"));
     QVERIFY(!groups.contains(u"100"));
+}
+
+void GroupMembershipTest::takesManyEntriesAtOnce()
+{
+    const GroupMembership groups = GroupMembership::fromEntries(
+        {{u"10"_s, u"a"_s}, {u"9"_s, u"b"_s}, {u"10"_s, u"c"_s}, {u"x"_s, u"d"_s}});
+    QCOMPARE(keysOf(groups), QStringList({u"9"_s, u"10"_s, u"x"_s}));
+    QCOMPARE((groups.begin() + 1)->value, u"c"_s);
+    QVERIFY(GroupMembership::fromEntries({}).isEmpty());
+}
+
+void GroupMembershipTest::keepsSomeGroups()
+{
+    GroupMembership groups = memberOf({u"1"_s, u"2"_s, u"3"_s});
+    groups.keepIf([](const QString& key) { return key != u"2"_s; });
+    QCOMPARE(keysOf(groups), QStringList({u"1"_s, u"3"_s}));
 }
 
 void GroupMembershipTest::comparesKeysAndValues()

@@ -99,10 +99,13 @@ void KeyTextTest::normalizesKeys_data()
     QTest::newRow("Devanagari digits") << u"\u0967,\u0968\u0969\u096A"_s << u"1234"_s;
     QTest::newRow("direction mark") << u"\u200E1,000"_s << u"1000"_s;
     QTest::newRow("negative") << u"-1,000"_s << u"-1000"_s;
+    QTest::newRow("superscript digit") << u"1²"_s << u"1²"_s;
     QTest::newRow("a name") << u"Fiction"_s << u"Fiction"_s;
     QTest::newRow("a number and a letter") << u"1,000a"_s << u"1,000a"_s;
     QTest::newRow("minus behind") << u"1-000"_s << u"1-000"_s;
     QTest::newRow("marks alone") << u",."_s << u",."_s;
+    QTest::newRow("longest") << QString(64, u'a') << QString(64, u'a');
+    QTest::newRow("too long") << QString(65, u'a') << QString(64, u'a');
     QTest::newRow("empty") << u""_s << u""_s;
 }
 

@@ -20,12 +20,16 @@ namespace {
 class CountingWindow : public DocumentWindow {
 public:
     explicit CountingWindow(int& shown, int& destroyed) : m_shown(shown), m_destroyed(destroyed) { }
+
     CountingWindow(const CountingWindow&) = delete;
     CountingWindow& operator=(const CountingWindow&) = delete;
+
     ~CountingWindow() override { ++m_destroyed; }
 
     void showWindow() override { ++m_shown; }
+
     void bringToFront() override { }
+
     QObject* windowObject() override { return nullptr; }
 
 private:
@@ -162,8 +166,8 @@ void DocumentTest::canBeLeftWhileItIsRead()
 {
     QVERIFY(writeFile(path(u"long"_s), "text"));
     TextDocument document;
-    const auto failure
-        = document.readFromFile(path(u"long"_s), [](qint64, qint64) { throw OperationCancelled(); });
+    const auto failure =
+        document.readFromFile(path(u"long"_s), [](qint64, qint64) { throw OperationCancelled(); });
     QVERIFY(failure);
     QVERIFY(failure->cancelled);
     QVERIFY(document.filePath().isEmpty());
@@ -221,13 +225,17 @@ void DocumentTest::handsOnProgress()
 {
     QVERIFY(writeFile(path(u"file"_s), "text"));
     int calls = 0;
-    const Progress progress = [&calls](qint64, qint64) { ++calls; };
+    const Progress progress = [&calls](qint64, qint64) {
+        ++calls;
+    };
     TextDocument document;
     document.onRead = [](QByteArrayView, const Progress& given) {
         given(1, 2);
         return std::nullopt;
     };
-    document.onWrite = [](const Progress& given) { given(1, 2); };
+    document.onWrite = [](const Progress& given) {
+        given(1, 2);
+    };
     QVERIFY(!document.readFromFile(path(u"file"_s), progress));
     QVERIFY(calls >= 2); // the file's own bytes too
     calls = 0;

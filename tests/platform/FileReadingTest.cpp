@@ -84,8 +84,8 @@ void FileReadingTest::followsLinks()
 
 void FileReadingTest::saysWhyThereAreNone()
 {
-    QCOMPARE(errorOf(readWholeFile(m_folder.filePath(u"missing"_s))),
-        u"No such file or directory"_s);
+    QCOMPARE(
+        errorOf(readWholeFile(m_folder.filePath(u"missing"_s))), u"No such file or directory"_s);
     const QString link = m_folder.filePath(u"dangling"_s);
     QVERIFY(QFile::link(m_folder.filePath(u"missing"_s), link));
     QCOMPARE(errorOf(readWholeFile(link)), u"No such file or directory"_s);
@@ -120,12 +120,10 @@ void FileReadingTest::isLeftByItsProgress()
     const QString path = m_folder.filePath(u"left"_s);
     QVERIFY(writeFile(path, longText(9 * megabyte)));
     int calls = 0;
-    QVERIFY_EXCEPTION_THROWN(readWholeFile(path,
-                                 [&calls](qint64, qint64) {
-                                     ++calls;
-                                     throw OperationCancelled();
-                                 }),
-        OperationCancelled);
+    QVERIFY_THROWS_EXCEPTION(OperationCancelled, readWholeFile(path, [&calls](qint64, qint64) {
+        ++calls;
+        throw OperationCancelled();
+    }));
     QCOMPARE(calls, 1);
 }
 

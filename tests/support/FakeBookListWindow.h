@@ -28,6 +28,11 @@ public:
         return others;
     }
 
+    FakeBookListWindow() { setVisible(true); }
+
+    /// As a widget's property says it.
+    void setVisible(bool visible) { m_windowObject.setProperty("visible", visible); }
+
     void showWindow() override { calls.append(QStringLiteral("showWindow")); }
 
     void bringToFront() override { calls.append(QStringLiteral("bringToFront")); }

@@ -32,11 +32,13 @@ public:
         FileType type;
         QString folder;
     };
+
     struct OpenPanel {
         QWidget* window;
         FileType type;
         std::function<void(const QStringList& paths)> picked; // not called: the panel is cancelled
     };
+
     struct SavePanel {
         QWidget* window;
         FileType type;

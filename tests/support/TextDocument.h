@@ -1,5 +1,5 @@
-// The simplest document there is: its file is its text. What goes wrong in reading and writing is up
-// to the test.
+// The simplest document there is: its file is its text. What goes wrong in reading and writing is
+// up to the test.
 
 #pragma once
 

@@ -39,6 +39,7 @@ class SymbolicIconTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+
     void cleanup() { QGuiApplication::setPalette(m_palette); }
 
     void isDrawnInThePalettesColor();
@@ -110,8 +111,7 @@ void SymbolicIconTest::paintsWhereItIsTold()
     symbolicIcon(u"group"_s).paint(&painter, QRect(32, 32, 32, 32));
     painter.end();
     QVERIFY(solidColors(canvas.copy(0, 0, 32, 64)).isEmpty());
-    QCOMPARE(solidColors(canvas.copy(32, 32, 32, 32)),
-        only(m_palette.color(QPalette::WindowText)));
+    QCOMPARE(solidColors(canvas.copy(32, 32, 32, 32)), only(m_palette.color(QPalette::WindowText)));
 }
 
 void SymbolicIconTest::showsNothingForAnUnknownName()

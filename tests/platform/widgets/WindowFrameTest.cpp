@@ -2,8 +2,8 @@
 
 #include <QLabel>
 #include <QScreen>
-#include <QWidget>
 #include <QtTest>
+#include <QWidget>
 
 using namespace tomely;
 

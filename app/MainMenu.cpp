@@ -124,7 +124,7 @@ void addMainMenu(QMainWindow& window, Document& document, DocumentController& do
 
 QList<QKeySequence> shortcutsFor(QKeySequence::StandardKey command)
 {
-    const QList<QKeySequence> keys = QKeySequence::keyBindings(command);
+    QList<QKeySequence> keys = QKeySequence::keyBindings(command);
     if (!keys.isEmpty())
         return keys;
     if (command == QKeySequence::SaveAs)

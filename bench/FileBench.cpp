@@ -20,7 +20,7 @@ namespace {
 void open(benchmark::State& state)
 {
     const QString path = libraryFileOf(static_cast<int>(state.range(0)));
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         BookListDocument document;
         if (document.readFromFile(path))
             state.SkipWithError("the file could not be read");
@@ -52,7 +52,7 @@ void open_floor(benchmark::State& state)
     const int books = static_cast<int>(state.range(0));
     const QString path = libraryFileOf(books);
     const QByteArray texts = allTexts(libraryOf(books));
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         benchmark::DoNotOptimize(readBytes(path));
         benchmark::DoNotOptimize(QString::fromUtf8(texts));
     }
@@ -65,7 +65,7 @@ void save(benchmark::State& state)
         state.SkipWithError("the file could not be read");
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"saved.books"_s);
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         if (document.writeToFile(path))
             state.SkipWithError("the file could not be written");
     }
@@ -89,7 +89,7 @@ void save_floor(benchmark::State& state)
     const QByteArray bytes = readBytes(libraryFileOf(static_cast<int>(state.range(0))));
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"saved.books"_s);
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         if (!writeSynced(path, bytes))
             state.SkipWithError("the file could not be written");
     }

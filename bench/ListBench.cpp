@@ -33,7 +33,7 @@ void filterKey(benchmark::State& state)
     engine.filter().m_nSelectedFilter = ColumnKey::AuthorAndTitle;
     engine.loadBookKeys();
     qsizetype next = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         engine.filter().m_strFilter = typedTexts().at(next++ % typedTexts().size());
         engine.loadBookKeys();
         benchmark::DoNotOptimize(engine.getDisplayedBooks().size());
@@ -48,7 +48,7 @@ void filterKey_floor(benchmark::State& state)
         appendFolded(book->getTitle(), texts);
     }
     qsizetype next = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         const QByteArray needle = typedTexts().at(next++ % typedTexts().size()).toUtf8();
         qsizetype hits = 0;
         const char* position = texts.data();
@@ -68,7 +68,7 @@ void sortBy(benchmark::State& state, qint32 columnKey)
     ListEngine engine(document);
     engine.loadBookKeys();
     qint32 direction = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         document.setSortField(columnKey + direction);
         engine.loadBookKeys();
         direction = 1 - direction;
@@ -111,7 +111,7 @@ void sort_floor(benchmark::State& state)
             prefix = prefix << 8 | static_cast<quint8>(byte);
         unsorted.push_back({prefix, static_cast<quint32>(unsorted.size())});
     }
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         std::vector<Record> records = unsorted;
         std::ranges::sort(records, {}, &Record::prefix);
         benchmark::DoNotOptimize(records.data());
@@ -127,7 +127,7 @@ void refreshAfterEdit(benchmark::State& state)
     engine.loadBookKeys();
     BookEntry& book = *document.books().begin()->second;
     int edit = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         book.setTitle(++edit % 2 == 0 ? u"A Changed Title"_s : u"Zest"_s);
         engine.setBooksChanged();
         engine.loadBookKeys();

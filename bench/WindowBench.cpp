@@ -64,7 +64,7 @@ void windowFilterKey(benchmark::State& state)
     const QStringList texts = {u"s"_s, u"si"_s, u"sil"_s, u"sile"_s, u"silen"_s, u"silent"_s};
     library.controller().filter().m_nSelectedFilter = ColumnKey::AuthorAndTitle;
     qsizetype next = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         library.controller().filter().m_strFilter = texts.at(next++ % texts.size());
         library.controller().refresh();
         ShownLibrary::paint();
@@ -76,7 +76,7 @@ void windowHeaderClick(benchmark::State& state)
     ShownLibrary library(static_cast<int>(state.range(0)));
     QHeaderView& header = library.header();
     int next = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] const auto step : state) {
         const int visual = next++ / 2 % 2; // each heading twice, so that both directions come
         const int column = header.logicalIndex(visual);
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {},

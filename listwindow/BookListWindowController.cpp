@@ -100,7 +100,7 @@ void BookListWindowController::buildBookTable()
 void BookListWindowController::windowDidLoad()
 {
     m_columns->setupInitialColumns();
-    initFilterDropDown();
+    BookListWindowController::initFilterDropDown();
     connect(m_columns.get(), &ColumnLayout::headingClicked, this,
         &BookListWindowController::didClickTableColumn);
     connect(m_columns.get(), &ColumnLayout::changedByUser, this,
@@ -114,7 +114,7 @@ void BookListWindowController::windowDidLoad()
         &BookListWindowController::bookListSelectionDidChange);
     m_sidebar->populateGroups();
     m_sidebar->refreshGroupList();
-    refresh();
+    BookListWindowController::refresh();
     m_document.clearChangeCount();
     connect(&m_startupTimer, &QTimer::timeout, this, &BookListWindowController::startupTimer);
     m_startupTimer.start(startupTimerMilliseconds);

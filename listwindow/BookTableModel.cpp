@@ -51,8 +51,8 @@ QVariant BookTableModel::headerData(int section, Qt::Orientation orientation, in
     case Qt::DisplayRole:
         return record(section).getColumnName();
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue<int>(
-            record(section).getCentered() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+        return QVariant::fromValue(Qt::Alignment(
+            record(section).getCentered() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter));
     default:
         return {};
     }

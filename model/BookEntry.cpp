@@ -61,7 +61,8 @@ qint32 BookEntry::getTypeNum(QStringView text)
 
 void BookEntry::setSelectedGroups(GroupMembership groups)
 {
-    change(m_dSelectedGroups, groups);
+    m_dSelectedGroups = std::move(groups);
+    m_changeStamp.tick();
 }
 
 void BookEntry::addToGroup(const QString& groupKey)

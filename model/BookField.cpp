@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <bit>
 
 namespace tomely {
 
@@ -195,7 +195,7 @@ bool sameValue(const QString& left, const QString& right)
 // Bit by bit, so that a value that is not a number equals itself.
 bool sameValue(double left, double right)
 {
-    return std::memcmp(&left, &right, sizeof left) == 0;
+    return std::bit_cast<quint64>(left) == std::bit_cast<quint64>(right);
 }
 
 template <class Value>

@@ -65,7 +65,7 @@ bool GroupMembership::contains(qint32 groupKey) const
 {
     if (m_entries.empty())
         return false;
-    std::array<char, 12> digits; // "-2147483648" and a spare
+    std::array<char, 12> digits{}; // "-2147483648" and a spare
     const char* const end =
         std::to_chars(digits.data(), digits.data() + digits.size(), groupKey).ptr;
     const QLatin1StringView key(digits.data(), end);

@@ -90,8 +90,8 @@ void ListCommandTest::fitsATableToTheTerminal()
     const ProgramResult result =
         runShell(u"script -qec 'stty cols 24; \"$CLI\" list \"%1\"' /dev/null"_s.arg(
             m_folder.filePath(u"s.books"_s)));
-    if (result.status != 0)
-        QSKIP("there is no script program to make a terminal");
+    // The "script" program that makes the terminal is part of every Debian.
+    QCOMPARE(result.status, 0);
     const QByteArrayList lines = result.output.split('\n');
     QCOMPARE(lines.at(1).trimmed().size(), 24);
     QVERIFY(lines.at(4).startsWith("Tabs, \"quo…"));

@@ -1,6 +1,6 @@
 #include "tests/app/ProgramOnScreen.h"
 
-#include "listwindow/ImageView.h"
+#include "platform/widgets/ImageView.h"
 
 #include <QApplication>
 #include <QHeaderView>

@@ -2,7 +2,7 @@
 
 #include "document/CollectionFile.h"
 #include "listwindow/BookTableModel.h"
-#include "listwindow/ImageView.h"
+#include "platform/widgets/ImageView.h"
 #include "tests/support/Files.h"
 #include "tests/support/SmallCollection.h"
 

@@ -15,12 +15,20 @@ public:
     /// A picture is shown at most this many times its size, in points.
     static constexpr double largestEnlargement = 2;
 
-    explicit ImageView(QWidget* parent = nullptr);
+    explicit ImageView(QWidget* parent = nullptr) : QWidget(parent) { }
 
     /// A null image shows nothing.
     void setImage(const QImage& image);
 
     const QImage& image() const { return m_image; }
+
+    /// The room between the widget's edge and the largest picture, in points.
+    int pictureMargin() const { return m_margin; }
+
+    void setPictureMargin(int margin);
+
+    /// Where the picture is painted; empty when there is none.
+    QRectF pictureRect() const;
 
     QSize sizeHint() const override { return {218, 240}; }
 
@@ -29,7 +37,11 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
 
+    /// For a derived class that paints more than the picture.
+    void paintPicture(QPainter& painter);
+
 private:
+    int m_margin = 10;
     QImage m_image;
     QImage m_scaled; // m_image at the size on screen, made when it is painted
 };

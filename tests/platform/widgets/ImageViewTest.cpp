@@ -1,4 +1,4 @@
-#include "listwindow/ImageView.h"
+#include "platform/widgets/ImageView.h"
 
 #include <QtTest>
 
@@ -46,7 +46,7 @@ private Q_SLOTS:
     void followsItsSize();
     void showsNothingWithoutAPicture();
     void survivesAPlaceWithoutRoom();
-    void isNamedForAScreenReader();
+    void leavesTheGivenMargin();
 };
 
 void ImageViewTest::fitsAPictureIntoItsPlace_data()
@@ -138,9 +138,14 @@ void ImageViewTest::survivesAPlaceWithoutRoom()
     QVERIFY(placeOf(Qt::red, shot(view)).isEmpty());
 }
 
-void ImageViewTest::isNamedForAScreenReader()
+void ImageViewTest::leavesTheGivenMargin()
 {
-    QCOMPARE(ImageView().accessibleName(), u"Picture of the selected book"_s);
+    ImageView view;
+    view.setPictureMargin(4);
+    view.resize(108, 208);
+    view.setImage(plain({400, 800}, Qt::red));
+    QCOMPARE(view.pictureRect(), QRectF(4, 4, 100, 200));
+    QCOMPARE(placeOf(Qt::red, shot(view)), QRect(4, 4, 100, 200));
 }
 
 QTEST_MAIN(ImageViewTest)

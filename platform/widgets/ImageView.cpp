@@ -1,4 +1,4 @@
-#include "listwindow/ImageView.h"
+#include "platform/widgets/ImageView.h"
 
 #include <QPainter>
 
@@ -6,12 +6,6 @@
 #include <cmath>
 
 namespace tomely {
-
-namespace {
-
-constexpr int margin = 10;
-
-} // namespace
 
 QRectF fittedRect(QSize image, const QRectF& place, double largest)
 {
@@ -24,11 +18,6 @@ QRectF fittedRect(QSize image, const QRectF& place, double largest)
     return rect;
 }
 
-ImageView::ImageView(QWidget* parent) : QWidget(parent)
-{
-    setAccessibleName(tr("Picture of the selected book"));
-}
-
 void ImageView::setImage(const QImage& image)
 {
     m_image = image;
@@ -36,10 +25,27 @@ void ImageView::setImage(const QImage& image)
     update();
 }
 
+void ImageView::setPictureMargin(int margin)
+{
+    m_margin = margin;
+    update();
+}
+
+QRectF ImageView::pictureRect() const
+{
+    const QRectF place = QRectF(rect()).adjusted(m_margin, m_margin, -m_margin, -m_margin);
+    return fittedRect(m_image.size(), place, largestEnlargement);
+}
+
 void ImageView::paintEvent(QPaintEvent*)
 {
-    const QRectF place = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
-    const QRectF target = fittedRect(m_image.size(), place, largestEnlargement);
+    QPainter painter(this);
+    paintPicture(painter);
+}
+
+void ImageView::paintPicture(QPainter& painter)
+{
+    const QRectF target = pictureRect();
     if (target.isEmpty())
         return;
     const qreal pixels = devicePixelRatioF();
@@ -48,7 +54,6 @@ void ImageView::paintEvent(QPaintEvent*)
         m_scaled = m_image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         m_scaled.setDevicePixelRatio(pixels);
     }
-    QPainter painter(this);
     // On whole device pixels, or the picture would be smeared over its neighbours.
     const QPointF corner(
         std::round(target.x() * pixels) / pixels, std::round(target.y() * pixels) / pixels);

@@ -1,11 +1,10 @@
 #include "model/BookEntry.h"
 
+#include "model/BookImages.h"
 #include "model/CaseFolding.h"
 #include "model/KeyText.h"
+#include "model/Picture.h"
 #include "model/TextTrimming.h"
-
-#include <QBuffer>
-#include <QImageReader>
 
 #include <algorithm>
 
@@ -86,16 +85,39 @@ void BookEntry::setImageData(int slot, const QByteArray& jpeg)
     change(m_images.at(imageIndex(slot)), jpeg);
 }
 
+void BookEntry::setImage(int slot, const Picture& picture, const UserDefaults& defaults)
+{
+    const QSize bound = imageBound(slot);
+    setImageData(slot, scaleAndSaveAsJPEG(picture, bound.width(), bound.height(), defaults));
+}
+
+int BookEntry::scaleEachImage(const UserDefaults& defaults)
+{
+    int replaced = 0;
+    for (int slot = 1; slot <= ImageCount; ++slot) {
+        const QSize bound = imageBound(slot);
+        const Picture picture = getPicture(slot);
+        if (!shouldScaleImage(picture, bound.width(), bound.height()))
+            continue;
+        const QByteArray jpeg = scaleAndSaveAsJPEGScaled(
+            picture, bound.width(), bound.height(), /*scaleImage=*/true, defaults);
+        if (jpeg.isNull() && picture.imageFor(bound).isNull())
+            continue;
+        setImageData(slot, jpeg);
+        ++replaced;
+    }
+    return replaced;
+}
+
+Picture BookEntry::getPicture(int slot) const
+{
+    const QByteArray& bytes = m_images.at(imageIndex(slot));
+    return bytes.isEmpty() ? Picture() : Picture::fromStored(bytes);
+}
+
 QImage BookEntry::getImage(int slot) const
 {
-    QByteArray jpeg = getImageData(slot);
-    if (jpeg.isEmpty())
-        return {};
-    QBuffer buffer(&jpeg);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    return reader.read();
+    return getPicture(slot).image();
 }
 
 bool BookEntry::hasImages() const

@@ -15,7 +15,9 @@
 namespace tomely {
 
 class Archiver;
+class Picture;
 class Unarchiver;
+class UserDefaults;
 struct BookFieldTable;
 
 class BookEntry {
@@ -286,6 +288,44 @@ public:
 
     /// Stores JPEG bytes as they are; null clears the slot.
     void setImageData(int slot, const QByteArray& jpeg);
+
+    /// Stores a picture as the person's preferences want it (see scaleAndSaveAsJPEG). A picture
+    /// that is not valid or cannot be stored clears the slot.
+    void setImage(int slot, const Picture& picture, const UserDefaults& defaults);
+
+    void setImage1(const Picture& picture, const UserDefaults& defaults)
+    {
+        setImage(1, picture, defaults);
+    }
+
+    void setImage2(const Picture& picture, const UserDefaults& defaults)
+    {
+        setImage(2, picture, defaults);
+    }
+
+    void setImage3(const Picture& picture, const UserDefaults& defaults)
+    {
+        setImage(3, picture, defaults);
+    }
+
+    void setImage4(const Picture& picture, const UserDefaults& defaults)
+    {
+        setImage(4, picture, defaults);
+    }
+
+    void setImage5(const Picture& picture, const UserDefaults& defaults)
+    {
+        setImage(5, picture, defaults);
+    }
+
+    /// Scales every picture down that is larger than its slot's bound, whatever the preferences say
+    /// of new ones, and answers how many it replaced. Those that fit or cannot be decoded stay as
+    /// they are, byte for byte; one that cannot be stored is gone, as with setImage.
+    int scaleEachImage(const UserDefaults& defaults);
+
+    /// The stored picture, of which nothing is decoded yet; not valid when the slot is empty or
+    /// holds something else.
+    Picture getPicture(int slot) const;
 
     /// A freshly decoded picture; a null image when the slot is empty or cannot be decoded.
     QImage getImage(int slot) const;

@@ -15,7 +15,23 @@ inline constexpr QLatin1StringView DefaultFile{"DefaultFile"};
 inline constexpr QLatin1StringView PreferencesVersion{"PreferencesVersion"};
 /// Boolean: whether look-ups may ask more than the main source.
 inline constexpr QLatin1StringView EnableAlternateSources{"EnableAlternateSources"};
+/// Boolean: whether an editor opens on its tab of custom fields.
+inline constexpr QLatin1StringView OpenCustomTab{"OpenCustomTab"};
+/// Boolean: whether the editor of a new book starts in the ISBN field.
+inline constexpr QLatin1StringView SetFocusToISBNField{"SetFocusToISBNField"};
+/// Boolean: whether a new book was read for the first time this month.
+inline constexpr QLatin1StringView SetFirstReadToCurrentDate{"SetFirstReadToCurrentDate"};
+/// Boolean: whether a new book was read last this month.
+inline constexpr QLatin1StringView SetLastReadToCurrentDate{"SetLastReadToCurrentDate"};
+/// Boolean: whether a new book was bought this month.
+inline constexpr QLatin1StringView SetPurchasedToCurrentDate{"SetPurchasedToCurrentDate"};
+/// Boolean: whether a new book has been read.
+inline constexpr QLatin1StringView SetReadFlag{"SetReadFlag"};
 /// List of texts: paths of the collections opened lately, the latest first.
 inline constexpr QLatin1StringView RecentDocuments{"RecentDocuments"};
+/// Boolean: whether new pictures of books are scaled down to their place.
+inline constexpr QLatin1StringView ScaleImages{"ScaleImages"};
+/// Integer: quality of stored pictures in tenths, 1 to 10; absent and 0 are 7.
+inline constexpr QLatin1StringView ImageQuality{"ImageQuality"};
 
 } // namespace tomely::PreferenceKeys

@@ -65,6 +65,12 @@ bool BookListDocument::addBook(std::unique_ptr<BookEntry> book)
     return true;
 }
 
+void BookListDocument::addNewBook(QRect frame)
+{
+    if (m_bookListController)
+        m_bookListController->addNewBook(frame);
+}
+
 bool BookListDocument::deleteBook(const QString& key)
 {
     deleteBooks({key});

@@ -58,6 +58,9 @@ public:
     /// the document edited nor refreshes: the caller does.
     bool addBook(std::unique_ptr<BookEntry> book);
 
+    /// Opens an editor for a new book (see BookListWindow).
+    void addNewBook(QRect frame);
+
     /// Removes the book under `key`; an unknown key removes nothing. Always true.
     bool deleteBook(const QString& key);
 

@@ -5,6 +5,7 @@
 
 #include "document/ColumnEntry.h"
 
+#include <QRect>
 #include <QRectF>
 
 #include <array>
@@ -45,6 +46,9 @@ public:
 
     /// Where everything is now.
     virtual WindowLayout currentLayout() = 0;
+
+    /// Opens an editor for a new book; at `frame` in screen coordinates unless that is empty.
+    virtual void addNewBook(QRect frame) = 0;
 
     /// Takes over a group name that is still being typed.
     virtual void endGroupNameEditting() = 0;

@@ -80,6 +80,7 @@ std::optional<DocumentFailure> Document::writeToFile(const QString& path, const 
 void Document::addWindowController(std::unique_ptr<DocumentWindow> window)
 {
     m_windows.push_back(std::move(window));
+    Q_EMIT windowAdded(m_windows.back().get());
 }
 
 void Document::removeWindowController(DocumentWindow* window)
@@ -90,7 +91,25 @@ void Document::removeWindowController(DocumentWindow* window)
         return;
     auto* const owner = new LateOwner(std::move(*place));
     m_windows.erase(place);
+    std::erase_if(m_lateOwners, [](const auto& earlier) { return earlier.isNull(); });
+    m_lateOwners.emplace_back(owner);
     owner->deleteLater();
+}
+
+void Document::destroyWindowControllers()
+{
+    m_windows.clear();
+    // A removed window still looks at the document, so it cannot wait any longer.
+    for (const QPointer<QObject>& owner : m_lateOwners)
+        delete owner.data();
+    m_lateOwners.clear();
+}
+
+bool Document::hasUnsavedWork() const
+{
+    return isDocumentEdited() || std::ranges::any_of(m_windows, [](const auto& window) {
+        return window->unsavedWork().has_value();
+    });
 }
 
 DocumentWindow* Document::mainWindow() const

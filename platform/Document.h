@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -30,6 +31,8 @@ class Document : public QObject {
 public:
     explicit Document(QObject* parent = nullptr) : QObject(parent) { }
 
+    ~Document() override { destroyWindowControllers(); }
+
     /// The absolute path of the document's file; empty for a document that was never saved.
     QString filePath() const { return m_filePath; }
 
@@ -40,6 +43,9 @@ public:
     void setUntitledName(const QString& name);
 
     virtual bool isDocumentEdited() const { return m_edited; }
+
+    /// True when closing would lose something: a change that is not saved, or what a window holds.
+    bool hasUnsavedWork() const;
 
     /// Notes a change that is not saved yet.
     void changeDone() { setEdited(true); }
@@ -59,7 +65,8 @@ public:
     /// Makes the document's windows; called once, after it is filled.
     virtual void makeWindowControllers() { }
 
-    /// The document owns its windows from then on. The first one is the main window.
+    /// The document owns its windows from then on. The first one is the main window. Does not show
+    /// it.
     void addWindowController(std::unique_ptr<DocumentWindow> window);
 
     /// Destroys a window that is not the main one, when control is back in the event loop.
@@ -79,6 +86,7 @@ public:
 Q_SIGNALS:
     void editedChanged(bool edited);
     void nameChanged();
+    void windowAdded(DocumentWindow* window);
 
 protected:
     /// The bytes of the file. May throw ArchiveError when the document cannot be expressed.
@@ -90,7 +98,7 @@ protected:
 
     /// Windows may look at the document until the end; a derived class whose parts they use
     /// destroys them first.
-    void destroyWindowControllers() { m_windows.clear(); }
+    void destroyWindowControllers();
 
 private:
     void setEdited(bool edited);
@@ -99,6 +107,8 @@ private:
     QString m_untitledName;
     bool m_edited = false;
     std::vector<std::unique_ptr<DocumentWindow>> m_windows;
+    std::vector<QPointer<QObject>>
+        m_lateOwners; // of windows that are removed and not destroyed yet
 };
 
 } // namespace tomely

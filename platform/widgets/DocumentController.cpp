@@ -140,6 +140,7 @@ Document* DocumentController::adopt(std::unique_ptr<Document> document)
     adopted->makeWindowControllers();
     if (auto* const window = dynamic_cast<WindowController*>(adopted->mainWindow()))
         watchWindow(*adopted, *window);
+    watchFurtherWindows(*adopted);
     m_current = adopted;
     adopted->showWindows();
     Q_EMIT documentOpened(adopted);
@@ -152,6 +153,15 @@ void DocumentController::watchWindow(Document& document, WindowController& windo
         [this, &document] { close(document); });
     connect(&window, &WindowController::activated, &document,
         [this, &document] { m_current = &document; });
+}
+
+void DocumentController::watchFurtherWindows(Document& document)
+{
+    connect(&document, &Document::windowAdded, this, [this, &document](DocumentWindow* added) {
+        if (auto* const window = dynamic_cast<WindowController*>(added))
+            connect(window, &WindowController::activated, &document,
+                [this, &document] { m_current = &document; });
+    });
 }
 
 void DocumentController::openWithPanel(QWidget* window)
@@ -221,8 +231,17 @@ void DocumentController::revert(Document& document, Done done)
     if (WaitPanel::isWaiting() || document.filePath().isEmpty())
         return answer(done, false);
     endEditing(document);
-    if (!document.isDocumentEdited())
-        return reopen(document, done);
+    settleWindows(document, [this, target = QPointer(&document), done](bool settled) {
+        if (!settled || !target)
+            return answer(done, false);
+        if (target->isDocumentEdited())
+            return askToRevert(*target, done);
+        reopen(*target, done);
+    });
+}
+
+void DocumentController::askToRevert(Document& document, Done done)
+{
     if (DocumentWindow* const window = document.mainWindow())
         window->bringToFront();
     const Alert question{
@@ -256,19 +275,70 @@ void DocumentController::close(Document& document, Done done)
     if (WaitPanel::isWaiting())
         return answer(done, false);
     endEditing(document);
-    if (document.isDocumentEdited())
-        return askToSave(document, std::move(done));
-    remove(document);
-    Q_EMIT documentClosed();
-    answer(done, true);
+    settleWindows(document, [this, target = QPointer(&document), done](bool settled) {
+        if (!settled || !target)
+            return answer(done, false);
+        if (target->isDocumentEdited())
+            return askToSave(*target, done);
+        remove(*target);
+        Q_EMIT documentClosed();
+        answer(done, true);
+    });
+}
+
+bool DocumentController::beginAsking(const Document& document, DocumentWindow* window)
+{
+    // The question belongs on a window that can be seen, and there only once.
+    QPointer<QObject>& asked = m_asked[&document];
+    const auto& windows = document.windowControllers();
+    const auto place = std::ranges::find_if(windows,
+        [&asked](const auto& candidate) { return asked && candidate->windowObject() == asked; });
+    if (place != windows.end()) {
+        (*place)->bringToFront();
+        return false;
+    }
+    if (window) {
+        window->bringToFront();
+        asked = window->windowObject();
+    }
+    return true;
+}
+
+void DocumentController::settleWindows(Document& document, Done done)
+{
+    const auto& windows = document.windowControllers();
+    const auto place = std::ranges::find_if(
+        windows, [](const auto& window) { return window->unsavedWork().has_value(); });
+    if (place == windows.end())
+        return answer(done, true);
+    DocumentWindow* const window = place->get();
+    if (!beginAsking(document, window))
+        return answer(done, false);
+    const UnsavedWork work = *window->unsavedWork();
+    const Alert question = work.canBeKept
+        ? Alert{work.question, {tr("Save"), tr("Don't Save"), tr("Cancel")}, 0, 2}
+        : Alert{work.question, {tr("Discard"), tr("Cancel")}, 1, 1};
+    m_environment.alerts.beginSheet(window->windowObject(), question,
+        [this, target = QPointer(&document), window, canBeKept = work.canBeKept,
+            done = std::move(done)](int button) {
+            m_asked.erase(target);
+            const bool isCancelled = button == (canBeKept ? 2 : 1);
+            if (!target || isCancelled)
+                return answer(done, false);
+            // The sheet goes with its window, so an answer means that the window is there.
+            if (canBeKept && button == 0) {
+                if (!window->keepWork())
+                    return answer(done, false);
+            } else {
+                window->dropWork();
+            }
+            settleWindows(*target, done);
+        });
 }
 
 void DocumentController::askToSave(Document& document, Done done)
 {
-    // The question belongs on a window that can be seen, and there only once.
-    if (DocumentWindow* const window = document.mainWindow())
-        window->bringToFront();
-    if (!m_asked.insert(&document).second)
+    if (!beginAsking(document, document.mainWindow()))
         return answer(done, false);
     const Alert question{tr("Do you want to save the changes to '%1'?").arg(document.displayName()),
         {tr("Save"), tr("Don't Save"), tr("Cancel")}, 0, 2};

@@ -6,17 +6,19 @@
 #include "platform/widgets/FilePanels.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
+#include <map>
 #include <memory>
-#include <set>
 #include <vector>
 
 namespace tomely {
 
 class Alerts;
 class Document;
+class DocumentWindow;
 struct DocumentFailure;
 class UserDefaults;
 class WindowController;
@@ -70,7 +72,8 @@ public:
     /// Opens the file again in place of the document; asks first when there are changes to lose.
     void revert(Document& document, Done done = {});
 
-    /// Closes the document; asks first when there are unsaved changes.
+    /// Closes the document; asks first when there are unsaved changes or one of its windows holds
+    /// work that the document does not have yet.
     void close(Document& document, Done done = {});
 
     /// Closes all documents one after another, until the person cancels.
@@ -96,7 +99,11 @@ private:
     void watchWindow(Document& document, WindowController& window);
     std::unique_ptr<Document> readDocument(const QString& path, QWidget* window);
     bool write(Document& document, const QString& path);
+    bool beginAsking(const Document& document, DocumentWindow* window);
+    void watchFurtherWindows(Document& document);
+    void settleWindows(Document& document, Done done);
     void askToSave(Document& document, Done done);
+    void askToRevert(Document& document, Done done);
     void reopen(Document& document, const Done& done);
     void remove(Document& document);
     void noteRecent(const QString& path);
@@ -106,7 +113,9 @@ private:
     Environment m_environment;
     std::vector<std::unique_ptr<Document>> m_documents;
     Document* m_current = nullptr;
-    std::set<const Document*> m_asked; // whose "save the changes?" is on screen
+    /// The window on which a question about a document's unsaved work is on screen. When the window
+    /// goes, the question goes with it.
+    std::map<const Document*, QPointer<QObject>> m_asked;
     int m_untitledCount = 0;
     bool m_isClosingAll = false;
 };

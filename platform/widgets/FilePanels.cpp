@@ -14,14 +14,20 @@ namespace {
 
 QString nameFilter(const FileType& type)
 {
-    return "%1 (*.%2)"_L1.arg(type.name, type.extension);
+    QString patterns = "*."_L1 + type.extension;
+    for (const QString& extension : type.furtherExtensions)
+        patterns += " *."_L1 + extension;
+    return "%1 (%2)"_L1.arg(type.name, patterns);
 }
 
 QFileDialog* makePanel(QWidget* window, const FileType& type)
 {
     auto* const panel = new QFileDialog(window);
     panel->setObjectName("filePanel"_L1);
-    panel->setNameFilters({nameFilter(type)});
+    QStringList filters{nameFilter(type)};
+    if (!type.furtherExtensions.isEmpty())
+        filters.append(QCoreApplication::translate("FilePanels", "All Files (*)"));
+    panel->setNameFilters(filters);
     return panel;
 }
 
@@ -42,7 +48,8 @@ void DesktopFilePanels::beginOpenPanel(
     QWidget* window, const FileType& type, std::function<void(const QStringList& paths)> picked)
 {
     QFileDialog* const panel = makePanel(window, type);
-    panel->setFileMode(QFileDialog::ExistingFiles);
+    panel->setFileMode(
+        type.furtherExtensions.isEmpty() ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     panel->setAcceptMode(QFileDialog::AcceptOpen);
     QObject::connect(panel, &QDialog::finished, panel, [panel, picked](int result) {
         panel->deleteLater();

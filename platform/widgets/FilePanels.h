@@ -19,6 +19,9 @@ class Alerts;
 struct FileType {
     QString extension; // without the dot
     QString name; // "Tomely Collections"
+    /// Other extensions that files of this kind have. With any, a name proves nothing, and the
+    /// panel also offers all files, of which one can be picked.
+    QStringList furtherExtensions = {};
 };
 
 class FilePanels {

@@ -7,12 +7,21 @@
 
 namespace tomely {
 
+namespace {
+
+/// A picture that nearly fills its place stays as it is: a few percent more would only blur it.
+constexpr double smallestEnlargement = 1.1;
+
+} // namespace
+
 QRectF fittedRect(QSize image, const QRectF& place, double largest)
 {
     if (image.isEmpty() || place.isEmpty())
         return {};
-    const double scale =
+    double scale =
         std::min({place.width() / image.width(), place.height() / image.height(), largest});
+    if (scale > 1 && scale < smallestEnlargement)
+        scale = 1;
     QRectF rect(QPointF(), QSizeF(image) * scale);
     rect.moveCenter(place.center());
     return rect;

@@ -47,7 +47,7 @@ private:
 };
 
 /// Where a picture of `image` pixels is shown within `place`: centred, in proportion, enlarged by
-/// no more than `largest`.
+/// no more than `largest` and not by a few percent only.
 QRectF fittedRect(QSize image, const QRectF& place, double largest);
 
 } // namespace tomely

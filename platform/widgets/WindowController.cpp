@@ -25,10 +25,8 @@ WindowController::WindowController(Document& document)
 {
     m_window->installEventFilter(this);
     connect(&document, &Document::nameChanged, this, &WindowController::updateTitle);
-    connect(&document, &Document::editedChanged, this, [this](bool edited) {
-        if (m_window)
-            m_window->setWindowModified(edited);
-    });
+    connect(&document, &Document::editedChanged, this,
+        [this](bool edited) { setDocumentEdited(edited); });
     m_window->setWindowModified(document.isDocumentEdited());
     m_window->setWindowTitle(withMark(document.displayName()));
 }
@@ -70,6 +68,12 @@ void WindowController::updateTitle()
         return;
     m_window->setWindowTitle(withMark(windowTitle()));
     m_window->setWindowFilePath(m_document.filePath());
+}
+
+void WindowController::setDocumentEdited(bool edited)
+{
+    if (m_window)
+        m_window->setWindowModified(edited);
 }
 
 bool WindowController::eventFilter(QObject* watched, QEvent* event)

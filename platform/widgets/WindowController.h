@@ -43,6 +43,9 @@ protected:
 
     void updateTitle();
 
+    /// Shows whether the document has unsaved changes; by default as the title bar's mark.
+    virtual void setDocumentEdited(bool edited);
+
 private:
     Document& m_document;
     QPointer<QMainWindow> m_window; // owned; also destroyed by the toolkit at the program's end

@@ -62,6 +62,12 @@ public:
         return layout;
     }
 
+    void addNewBook(QRect frame) override
+    {
+        addedFrame = frame;
+        note(QStringLiteral("addNewBook"));
+    }
+
     void endGroupNameEditting() override { note(QStringLiteral("endGroupNameEditting")); }
 
     /// What was told, in order.
@@ -69,6 +75,7 @@ public:
     /// Called with each of them as it comes.
     std::function<void(const QString& call)> onCall;
     WindowLayout layout;
+    QRect addedFrame; // of the last addNewBook
 
 private:
     void note(const QString& call)

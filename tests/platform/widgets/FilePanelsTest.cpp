@@ -60,6 +60,7 @@ private Q_SLOTS:
     void addsTheExtensionWhereItIsMissing_data();
     void addsTheExtensionWhereItIsMissing();
     void offersFilesOfTheType();
+    void offersEveryFileWhenANameProvesNothing();
     void givesTheFileThatWasPicked();
     void givesNothingWhenOpeningIsCancelled();
     void suggestsAPathToSaveUnder();
@@ -117,6 +118,19 @@ void FilePanelsTest::offersFilesOfTheType()
     QCOMPARE(panel->fileMode(), QFileDialog::ExistingFiles);
     QCOMPARE(panel->acceptMode(), QFileDialog::AcceptOpen);
     QVERIFY(panel->isModal());
+}
+
+void FilePanelsTest::offersEveryFileWhenANameProvesNothing()
+{
+    MessageBoxAlerts alerts;
+    DesktopFilePanels panels(alerts);
+    panels.beginOpenPanel(
+        nullptr, {u"jpg"_s, u"Pictures"_s, {u"png"_s}}, [](const QStringList&) {});
+    auto* const panel = shown<QFileDialog>();
+    QVERIFY(panel);
+    QCOMPARE(panel->nameFilters(), QStringList({u"Pictures (*.jpg *.png)"_s, u"All Files (*)"_s}));
+    QCOMPARE(panel->fileMode(), QFileDialog::ExistingFile);
+    cancel(*panel);
 }
 
 void FilePanelsTest::givesTheFileThatWasPicked()

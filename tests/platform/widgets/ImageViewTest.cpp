@@ -60,6 +60,7 @@ void ImageViewTest::fitsAPictureIntoItsPlace_data()
     QTest::newRow("wide") << QSize(800, 200) << place << QRectF(10, 45, 200, 50);
     QTest::newRow("small") << QSize(20, 10) << place << QRectF(90, 60, 40, 20);
     QTest::newRow("twice") << QSize(100, 50) << place << place;
+    QTest::newRow("nearly as large") << QSize(190, 80) << place << QRectF(15, 30, 190, 80);
     QTest::newRow("one pixel wide") << QSize(1, 1000) << place << QRectF(109.95, 20, 0.1, 100);
     QTest::newRow("no picture") << QSize(0, 0) << place << QRectF();
     QTest::newRow("null") << QSize() << place << QRectF();

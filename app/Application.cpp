@@ -2,12 +2,15 @@
 
 #include "app/CollectionFileType.h"
 #include "app/MainMenu.h"
+#include "app/WindowMenu.h"
 #include "document/BookListDocument.h"
+#include "editor/BookEntryWindowController.h"
 #include "listwindow/BookListWindowController.h"
 #include "platform/widgets/WaitPanel.h"
 
 #include <QApplication>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QSessionManager>
 
 #include <algorithm>
@@ -17,6 +20,7 @@ namespace tomely {
 Application::Application(UserDefaults& defaults, Alerts& alerts, FilePanels& panels)
     : m_defaults(defaults)
     , m_alerts(alerts)
+    , m_panels(panels)
     , m_documents({alerts, panels, defaults, collectionFileType(),
           [this] {
               return makeDocument();
@@ -67,7 +71,7 @@ void Application::comeForward()
 void Application::askBeforeLogout(QSessionManager& session)
 {
     const bool isEdited = std::ranges::any_of(
-        m_documents.documents(), [](const auto& document) { return document->isDocumentEdited(); });
+        m_documents.documents(), [](const auto& document) { return document->hasUnsavedWork(); });
     if (!isEdited)
         return;
     // The questions are answered later; until then the session has to wait.
@@ -94,11 +98,37 @@ std::unique_ptr<Document> Application::makeDocument()
 
 BookListWindow* Application::makeWindow(BookListDocument& document)
 {
-    auto controller = std::make_unique<BookListWindowController>(document);
-    addMainMenu(*controller->window(), document, m_documents);
+    auto controller = std::make_unique<BookListWindowController>(document, listWindowServices());
+    QMainWindow& mainWindow = *controller->window();
+    addFileMenu(mainWindow, document, m_documents);
+    controller->addCommandMenus(*mainWindow.menuBar());
+    addWindowMenu(mainWindow, m_documents);
+    addHelpMenu(mainWindow);
     BookListWindow* const window = controller.get();
     document.addWindowController(std::move(controller));
     return window;
+}
+
+ListWindowServices Application::listWindowServices()
+{
+    const auto withWindowMenu = [this](std::unique_ptr<BookEntryWindowController> editor) {
+        addWindowMenu(*editor->window(), m_documents);
+        return editor;
+    };
+    return {m_alerts, m_defaults,
+        [this, withWindowMenu](BookListDocument& document, QRect frame) {
+            return withWindowMenu(
+                BookEntryWindowController::initWithRect(frame, document, editorServices()));
+        },
+        [this, withWindowMenu](BookListDocument& document, BookEntry& book) {
+            return withWindowMenu(
+                BookEntryWindowController::initWithEntry(book, document, editorServices()));
+        }};
+}
+
+EditorServices Application::editorServices()
+{
+    return {m_defaults, m_panels, &m_spellChecker};
 }
 
 } // namespace tomely

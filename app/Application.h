@@ -5,6 +5,7 @@
 
 #include "app/StartWindow.h"
 #include "app/TomelyDelegate.h"
+#include "editor/SpellChecker.h"
 #include "platform/widgets/DocumentController.h"
 
 #include <QObject>
@@ -15,6 +16,8 @@ namespace tomely {
 
 class BookListDocument;
 class BookListWindow;
+struct EditorServices;
+struct ListWindowServices;
 
 class Application : public QObject {
     Q_OBJECT
@@ -37,12 +40,16 @@ public:
 private:
     std::unique_ptr<Document> makeDocument();
     BookListWindow* makeWindow(BookListDocument& document);
+    ListWindowServices listWindowServices();
+    EditorServices editorServices();
     void comeForward();
     void askBeforeLogout(QSessionManager& session);
     void showStartWindowWhenAlone();
 
     UserDefaults& m_defaults;
     Alerts& m_alerts;
+    FilePanels& m_panels;
+    SpellChecker m_spellChecker; // for the notes of all editors
     DocumentController m_documents;
     TomelyDelegate m_delegate;
     StartWindow m_startWindow;

@@ -78,6 +78,8 @@ void addRecentMenu(QMenu& fileMenu, DocumentController& documents)
         [recent, &documents] { fillRecentMenu(*recent, documents); });
 }
 
+} // namespace
+
 void addFileMenu(QMainWindow& window, Document& document, DocumentController& documents)
 {
     QMenu& menu = *window.menuBar()->addMenu(tr("&File"));
@@ -112,14 +114,6 @@ void addHelpMenu(QMainWindow& window)
     addItem(menu, {"about"_L1, tr("&About Tomely"), "help-about"_L1}, [&window] {
         showAbout(&window);
     })->setMenuRole(QAction::AboutRole);
-}
-
-} // namespace
-
-void addMainMenu(QMainWindow& window, Document& document, DocumentController& documents)
-{
-    addFileMenu(window, document, documents);
-    addHelpMenu(window);
 }
 
 QList<QKeySequence> shortcutsFor(QKeySequence::StandardKey command)

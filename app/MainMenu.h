@@ -13,8 +13,11 @@ namespace tomely {
 class Document;
 class DocumentController;
 
-/// Adds the menus to a window of `document`. Everything must outlive the window.
-void addMainMenu(QMainWindow& window, Document& document, DocumentController& documents);
+/// Adds the menu File to a window of `document`. Everything must outlive the window.
+void addFileMenu(QMainWindow& window, Document& document, DocumentController& documents);
+
+/// Adds the menu Help.
+void addHelpMenu(QMainWindow& window);
 
 /// The desktop's keys for a command, or the usual ones where the desktop has none for it.
 QList<QKeySequence> shortcutsFor(QKeySequence::StandardKey command);

@@ -4,6 +4,8 @@
 #include "bench/Libraries.h"
 #include "listwindow/BookListWindowController.h"
 #include "listwindow/engine/ColumnKind.h"
+#include "platform/UserDefaults.h"
+#include "platform/widgets/MessageBoxAlerts.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,6 +13,7 @@
 #include <QHeaderView>
 #include <QMainWindow>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -26,7 +29,8 @@ class ShownLibrary {
 public:
     explicit ShownLibrary(int books)
         : m_document({.makeWindow = [this](BookListDocument& document) {
-            auto controller = std::make_unique<BookListWindowController>(document);
+            auto controller = std::make_unique<BookListWindowController>(
+                document, ListWindowServices{m_alerts, m_defaults, {}, {}});
             m_controller = controller.get();
             document.addWindowController(std::move(controller));
             return m_controller;
@@ -54,6 +58,9 @@ public:
     static void paint() { QCoreApplication::processEvents(); }
 
 private:
+    MessageBoxAlerts m_alerts;
+    QTemporaryDir m_folder;
+    UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
     BookListWindowController* m_controller = nullptr;
     BookListDocument m_document;
 };

@@ -1,8 +1,11 @@
 #include "listwindow/BookListWindowController.h"
 
+#include "document/BookEditorWindow.h"
 #include "document/BookListDocument.h"
 #include "listwindow/BookTableModel.h"
+#include "listwindow/BookTableView.h"
 #include "listwindow/ColumnLayout.h"
+#include "listwindow/CommandActions.h"
 #include "listwindow/engine/BookOrder.h"
 #include "listwindow/GroupSidebar.h"
 #include "listwindow/SingleLineDelegate.h"
@@ -43,11 +46,13 @@ int rowHeight(const QWidget& widget)
 
 } // namespace
 
-BookListWindowController::BookListWindowController(BookListDocument& document)
+BookListWindowController::BookListWindowController(
+    BookListDocument& document, ListWindowServices services)
     : WindowController(document)
     , m_document(document)
     , m_ui(std::make_unique<Ui::BookListWindow>())
     , m_engine(document)
+    , m_commands(document, std::move(services), *window(), [this] { return selectedKeys(); })
 {
     m_ui->setupUi(window());
     // The first size is a wish: on a small screen the window starts no larger than that.
@@ -74,6 +79,8 @@ void BookListWindowController::buildBookTable()
     m_ui->m_idGroupTable->verticalHeader()->setDefaultSectionSize(rowHeight(*m_bookTable));
     m_columns = std::make_unique<ColumnLayout>(*m_bookTable, *m_bookModel, m_document);
     m_sidebar = std::make_unique<GroupSidebar>(*m_ui->m_idGroupTable, m_document);
+
+    m_actions = std::make_unique<CommandActions>(*m_bookTable);
 
     m_emptyText = new QLabel;
     m_emptyText->setObjectName("m_idEmptyText"_L1);
@@ -112,6 +119,9 @@ void BookListWindowController::windowDidLoad()
         &BookListWindowController::groupSelected);
     connect(m_bookTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &BookListWindowController::bookListSelectionDidChange);
+    connect(m_actions.get(), &CommandActions::triggered, &m_commands, &BookCommands::perform);
+    connect(m_bookTable, &BookTableView::rowDoubleClicked, &m_commands, &BookCommands::clickedEdit);
+    connect(&m_commands, &BookCommands::booksDeleted, m_bookTable, &QTableView::clearSelection);
     m_sidebar->populateGroups();
     m_sidebar->refreshGroupList();
     BookListWindowController::refresh();
@@ -196,6 +206,10 @@ void BookListWindowController::updateColumnName(const ColumnEntry& column)
 {
     m_columns->updateColumnName(column);
     refresh();
+    for (const auto& window : m_document.windowControllers()) {
+        if (auto* const editor = dynamic_cast<BookEditorWindow*>(window.get()))
+            editor->updateColumnName();
+    }
 }
 
 void BookListWindowController::initFilterDropDown()
@@ -234,6 +248,23 @@ void BookListWindowController::groupsChanged()
     m_document.setBooksChanged();
     if (selectionMoved || m_engine.filter().m_nSelectedFilter == ColumnKey::Groups)
         refresh();
+}
+
+// Commands
+
+void BookListWindowController::addCommandMenus(QMenuBar& menuBar)
+{
+    m_actions->addMenus(menuBar);
+}
+
+void BookListWindowController::addNewBook(QRect frame)
+{
+    m_commands.addNewBook(frame);
+}
+
+void BookListWindowController::updateCommands()
+{
+    m_actions->update({selectedRow() >= 0});
 }
 
 void BookListWindowController::endGroupNameEditting()
@@ -329,10 +360,29 @@ int BookListWindowController::selectedRow() const
     return first;
 }
 
+QStringList BookListWindowController::selectedKeys() const
+{
+    QStringList keys;
+    const std::vector<BookEntry*>& books = getDisplayedBooks();
+    const int first = selectedRow();
+    if (first >= 0)
+        keys.append(books.at(static_cast<std::size_t>(first))->getKey());
+    QItemSelection selection = m_bookTable->selectionModel()->selection();
+    std::ranges::sort(selection, {}, [](const QItemSelectionRange& range) { return range.top(); });
+    for (const QItemSelectionRange& range : std::as_const(selection)) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            if (row != first)
+                keys.append(books.at(static_cast<std::size_t>(row))->getKey());
+        }
+    }
+    return keys;
+}
+
 void BookListWindowController::bookListSelectionDidChange()
 {
     if (m_isReloading)
         return;
+    updateCommands();
     const int row = selectedRow();
     const BookEntry* const book =
         row >= 0 ? getDisplayedBooks().at(static_cast<std::size_t>(row)) : nullptr;

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "document/BookListWindow.h"
+#include "listwindow/BookCommands.h"
 #include "listwindow/engine/ListEngine.h"
 #include "platform/widgets/WindowController.h"
 
@@ -13,8 +14,8 @@
 #include <memory>
 
 class QLabel;
+class QMenuBar;
 class QSplitter;
-class QTableView;
 
 namespace Ui {
 class BookListWindow;
@@ -24,7 +25,9 @@ namespace tomely {
 
 class BookListDocument;
 class BookTableModel;
+class BookTableView;
 class ColumnLayout;
+class CommandActions;
 class GroupSidebar;
 
 class BookListWindowController : public WindowController, public BookListWindow {
@@ -37,7 +40,7 @@ public:
 
     /// Builds the window and loads it, which leaves the document unchanged. The document must
     /// outlive the controller.
-    explicit BookListWindowController(BookListDocument& document);
+    BookListWindowController(BookListDocument& document, ListWindowServices services);
     ~BookListWindowController() override;
 
     // What the document asks of its window.
@@ -49,9 +52,14 @@ public:
     void initFilterDropDown() override;
     void updateCurrentColumnInfo() override;
     WindowLayout currentLayout() override;
+    void addNewBook(QRect frame) override;
     void endGroupNameEditting() override;
 
     void endEditing() override { endGroupNameEditting(); }
+
+    /// Adds the menus of the window's commands, which are the window's own affair, between those of
+    /// the program.
+    void addCommandMenus(QMenuBar& menuBar);
 
     /// The first call restores the layout that is saved with the document.
     void showWindow() override;
@@ -83,19 +91,25 @@ private:
     void reloadTable();
     void bookListSelectionDidChange();
     void showStatus();
+    void updateCommands();
 
     /// The row that commands are about: the current one of the selected rows; -1 when none is.
     int selectedRow() const;
 
+    /// The key of the book in selectedRow(), then those of the other selected rows from the top.
+    QStringList selectedKeys() const;
+
     BookListDocument& m_document;
     std::unique_ptr<Ui::BookListWindow> m_ui;
     ListEngine m_engine;
-    QTableView* m_bookTable = nullptr; // of m_ui
+    BookTableView* m_bookTable = nullptr; // of m_ui
     QLabel* m_emptyText = nullptr; // in the list's place while no book is shown
     QLabel* m_idStatusText = nullptr;
     std::unique_ptr<BookTableModel> m_bookModel;
     std::unique_ptr<ColumnLayout> m_columns;
     std::unique_ptr<GroupSidebar> m_sidebar;
+    BookCommands m_commands;
+    std::unique_ptr<CommandActions> m_actions;
     QTimer m_startupTimer;
     int m_startupTimerCounter = 0;
     bool m_bShowWindowCalled = false;

@@ -15,12 +15,38 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace tomely {
 
 namespace {
+
+/// Answers a question about closing that is never answered: its window goes, and it with it.
+class AnswerGuard {
+public:
+    explicit AnswerGuard(DocumentController::Done done) : m_done(std::move(done)) { }
+
+    ~AnswerGuard()
+    {
+        if (m_done)
+            m_done(false);
+    }
+
+    Q_DISABLE_COPY_MOVE(AnswerGuard)
+
+    void answer(bool happened)
+    {
+        if (const DocumentController::Done done = std::exchange(m_done, {}))
+            done(happened);
+    }
+
+    DocumentController::Done take() { return std::exchange(m_done, {}); }
+
+private:
+    DocumentController::Done m_done;
+};
 
 // How often a request that came during a wait looks whether the wait is over.
 constexpr int retryMilliseconds = 50;
@@ -320,19 +346,19 @@ void DocumentController::settleWindows(Document& document, Done done)
         : Alert{work.question, {tr("Discard"), tr("Cancel")}, 1, 1};
     m_environment.alerts.beginSheet(window->windowObject(), question,
         [this, target = QPointer(&document), window, canBeKept = work.canBeKept,
-            done = std::move(done)](int button) {
+            guard = std::make_shared<AnswerGuard>(std::move(done))](int button) {
             m_asked.erase(target);
             const bool isCancelled = button == (canBeKept ? 2 : 1);
             if (!target || isCancelled)
-                return answer(done, false);
+                return guard->answer(false);
             // The sheet goes with its window, so an answer means that the window is there.
             if (canBeKept && button == 0) {
                 if (!window->keepWork())
-                    return answer(done, false);
+                    return guard->answer(false);
             } else {
                 window->dropWork();
             }
-            settleWindows(*target, done);
+            settleWindows(*target, guard->take());
         });
 }
 

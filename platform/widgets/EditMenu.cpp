@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QIcon>
 #include <QKeySequence>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 #include <QMetaMethod>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextDocument>
 
 #include <array>
@@ -95,17 +97,41 @@ bool hasSlot(const QWidget& widget, const char* slot)
     return widget.metaObject()->indexOfMethod(QByteArray(slot) + "()") >= 0;
 }
 
-bool isPossible(const Item& item)
+bool isPossible(const Item& item, const QWidget* target)
 {
-    const QWidget* const focus = QApplication::focusWidget();
-    if (!focus || !hasSlot(*focus, item.slot))
+    if (!target || !hasSlot(*target, item.slot))
         return false;
-    if (const auto* const line = qobject_cast<const QLineEdit*>(focus))
+    if (const auto* const line = qobject_cast<const QLineEdit*>(target))
         return canEditLine(*line, item.command);
-    if (const auto* const text = qobject_cast<const QPlainTextEdit*>(focus))
+    if (const auto* const text = qobject_cast<const QPlainTextEdit*>(target))
         return canEditText(*text, item.command);
     return true;
 }
+
+/// Which widget of a window the menu is about: the one with the focus, also while the person walks
+/// through the menus by keyboard, which takes the focus from it.
+class EditTarget : public QObject {
+public:
+    explicit EditTarget(QMenuBar& menuBar) : QObject(&menuBar), m_menuBar(menuBar)
+    {
+        connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
+            const bool isMenu = qobject_cast<QMenuBar*>(now) || qobject_cast<QMenu*>(now);
+            if (now && !isMenu && now->window() == m_menuBar.window())
+                m_focus = now;
+        });
+    }
+
+    QWidget* widget() const
+    {
+        // A combo box has the focus in place of its line.
+        const auto* const combo = qobject_cast<QComboBox*>(m_focus.data());
+        return combo && combo->lineEdit() ? combo->lineEdit() : m_focus.data();
+    }
+
+private:
+    QMenuBar& m_menuBar;
+    QPointer<QWidget> m_focus;
+};
 
 } // namespace
 
@@ -113,18 +139,18 @@ void addEditMenu(QMenuBar& menuBar)
 {
     QMenu& menu = *menuBar.addMenu(QCoreApplication::translate("EditMenu", "&Edit"));
     menu.setObjectName("editMenu"_L1);
+    const auto* const target = new EditTarget(menuBar); // owned by the menu bar
     for (const Item& item : items) {
         QAction* const action = menu.addAction(
             QIcon::fromTheme(item.icon), QCoreApplication::translate("EditMenu", item.text));
         action->setObjectName(QString::fromLatin1(item.slot));
         action->setShortcuts(item.keys);
-        QObject::connect(action, &QAction::triggered, action, [&item] {
-            if (QWidget* const focus = QApplication::focusWidget();
-                focus && hasSlot(*focus, item.slot))
-                QMetaObject::invokeMethod(focus, item.slot);
+        QObject::connect(action, &QAction::triggered, action, [&item, target] {
+            if (QWidget* const widget = target->widget(); widget && hasSlot(*widget, item.slot))
+                QMetaObject::invokeMethod(widget, item.slot);
         });
         QObject::connect(&menu, &QMenu::aboutToShow, action,
-            [action, &item] { action->setEnabled(isPossible(item)); });
+            [action, &item, target] { action->setEnabled(isPossible(item, target->widget())); });
         // A key asks the widget itself, which knows better than the last look at the menu.
         QObject::connect(
             &menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });

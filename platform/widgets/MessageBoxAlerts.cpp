@@ -12,6 +12,9 @@ namespace tomely {
 
 namespace {
 
+/// A message with a title or a path of any length still fits the screen.
+constexpr qsizetype longestText = 800;
+
 QString buttonName(qsizetype index)
 {
     return "alertButton"_L1 + QString::number(index);
@@ -21,8 +24,9 @@ QString buttonName(qsizetype index)
 /// the label takes a text for escaped only when it holds a tag.
 QString asRichText(const QString& text)
 {
+    const QString shown = text.size() > longestText ? text.first(longestText) + u'…' : text;
     return "<span style='white-space: pre-wrap'>%1</span>"_L1.arg(
-        text.toHtmlEscaped().replace(u'\n', "<br>"_L1));
+        shown.toHtmlEscaped().replace(u'\n', "<br>"_L1));
 }
 
 std::unique_ptr<QMessageBox> makeBox(const Alert& alert, QWidget* parent)

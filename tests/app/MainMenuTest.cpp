@@ -21,7 +21,8 @@ struct MenuDesk : DocumentDesk {
     QMainWindow& windowWithMenus(Document& document)
     {
         auto& window = static_cast<QMainWindow&>(*windowOf(document));
-        addMainMenu(window, document, controller);
+        addFileMenu(window, document, controller);
+        addHelpMenu(window);
         return window;
     }
 };

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -179,6 +180,44 @@ void CollectionWindow::choose(const QString& action) const
     window().findChild<QAction*>(action)->trigger();
 }
 
+// An editor
+
+QMainWindow& EditorWindow::window() const
+{
+    return *m_controller->window();
+}
+
+void EditorWindow::type(const QString& name, const QString& text) const
+{
+    auto& control = find<QWidget>(name);
+    control.setFocus(Qt::MouseFocusReason);
+    QWidget* const field = window().focusWidget(); // of a combo box its line
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    for (const QChar& letter : text) {
+        if (letter == u'\n')
+            QTest::keyClick(field, Qt::Key_Return);
+        else
+            QTest::keyClicks(field, letter);
+    }
+}
+
+void EditorWindow::choose(const QString& name, const QString& item) const
+{
+    auto& control = find<QComboBox>(name);
+    control.setFocus(Qt::TabFocusReason);
+    const int wanted = control.findText(item);
+    QTest::keyClick(&control, Qt::Key_Home);
+    for (int steps = 0; control.currentIndex() != wanted && steps < control.count(); ++steps)
+        QTest::keyClick(&control, Qt::Key_Down);
+}
+
+void EditorWindow::click(const QString& name) const
+{
+    auto& control = find<QWidget>(name);
+    // Not the middle: a check box may be wider than its box and text.
+    QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(10, control.height() / 2));
+}
+
 // The program
 
 ProgramOnScreen::~ProgramOnScreen()
@@ -212,6 +251,40 @@ CollectionWindow ProgramOnScreen::open(const QString& path)
     if (!QTest::qWaitForWindowActive(&window.window()))
         qWarning("the window did not become active");
     return window;
+}
+
+EditorWindow ProgramOnScreen::addBook(const CollectionWindow& window)
+{
+    QTest::keyClick(&window.books(), Qt::Key_B, Qt::ControlModifier);
+    return activeEditor(window);
+}
+
+EditorWindow ProgramOnScreen::edit(const CollectionWindow& window, const QString& title)
+{
+    const int row =
+        static_cast<int>(window.cells(0, window.books().model()->rowCount()).indexOf(title));
+    const QModelIndex index = window.books().model()->index(row, window.columnOf(0));
+    window.books().scrollTo(index);
+    const QPoint place = window.books().visualRect(index).center();
+    QTest::mouseClick(window.books().viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(window.books().viewport(), Qt::LeftButton, {}, place);
+    return activeEditor(window);
+}
+
+EditorWindow ProgramOnScreen::activeEditor(const CollectionWindow& window)
+{
+    BookEntryWindowController* active = nullptr;
+    const bool found = QTest::qWaitFor([&window, &active] {
+        for (const auto& candidate : window.document().windowControllers()) {
+            auto* const editor = dynamic_cast<BookEntryWindowController*>(candidate.get());
+            if (editor && editor->window()->isActiveWindow())
+                active = editor;
+        }
+        return active != nullptr;
+    });
+    if (!found)
+        qFatal("no editor became active");
+    return EditorWindow(*active);
 }
 
 CollectionWindow ProgramOnScreen::onlyWindow()

@@ -5,6 +5,7 @@
 
 #include "app/Application.h"
 #include "document/BookListDocument.h"
+#include "editor/BookEntryWindowController.h"
 #include "listwindow/BookListWindowController.h"
 #include "platform/UserDefaults.h"
 #include "platform/widgets/MessageBoxAlerts.h"
@@ -74,6 +75,33 @@ private:
     BookListWindowController& m_controller;
 };
 
+/// A window of an editor and what is in it.
+class EditorWindow {
+public:
+    explicit EditorWindow(BookEntryWindowController& controller) : m_controller(&controller) { }
+
+    BookEntryWindowController& controller() const { return *m_controller; }
+
+    QMainWindow& window() const;
+
+    template <class Widget>
+    Widget& find(const QString& name) const
+    {
+        return *window().findChild<Widget*>(name);
+    }
+
+    /// Clicks into a text field, marks what is there and types.
+    void type(const QString& name, const QString& text) const;
+
+    /// Chooses the item of a pop-up by its keyboard.
+    void choose(const QString& name, const QString& item) const;
+
+    void click(const QString& name) const;
+
+private:
+    BookEntryWindowController* m_controller;
+};
+
 class ProgramOnScreen {
 public:
     ProgramOnScreen() = default;
@@ -90,6 +118,15 @@ public:
 
     /// Opens a collection and waits until its window can be used.
     CollectionWindow open(const QString& path);
+
+    /// Adds a book by the window's menu key; its editor, active.
+    EditorWindow addBook(const CollectionWindow& window);
+
+    /// Edits the book of that title by its row in the list; its editor, active.
+    EditorWindow edit(const CollectionWindow& window, const QString& title);
+
+    /// The editor that is active; waits for one.
+    EditorWindow activeEditor(const CollectionWindow& window);
 
     /// The window of the only open collection.
     CollectionWindow onlyWindow();

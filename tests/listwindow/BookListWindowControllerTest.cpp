@@ -2,7 +2,9 @@
 
 #include "document/CollectionFile.h"
 #include "listwindow/BookTableModel.h"
+#include "platform/UserDefaults.h"
 #include "platform/widgets/ImageView.h"
+#include "tests/support/FakeAlerts.h"
 #include "tests/support/Files.h"
 #include "tests/support/SmallCollection.h"
 
@@ -88,6 +90,9 @@ private:
     QList<int> selectedRows() const;
     void clickHeading(qint32 columnKey) const;
 
+    FakeAlerts m_alerts;
+    QTemporaryDir m_folder;
+    UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
     std::unique_ptr<BookListDocument> m_document;
     BookListWindowController* m_controller = nullptr; // owned by the document
 };
@@ -96,7 +101,8 @@ void BookListWindowControllerTest::init()
 {
     m_document = std::make_unique<BookListDocument>(
         BookListServices{nullptr, nullptr, [this](BookListDocument& document) {
-                             auto window = std::make_unique<BookListWindowController>(document);
+                             auto window = std::make_unique<BookListWindowController>(
+                                 document, ListWindowServices{m_alerts, m_defaults, {}, {}});
                              m_controller = window.get();
                              document.addWindowController(std::move(window));
                              return m_controller;

@@ -1,6 +1,7 @@
 #include "platform/widgets/EditMenu.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void enablesNothingForAButton();
     void offersNothingButCopyForAReadOnlyLine();
     void answersKeysWhateverTheMenuShowedLast();
+    void worksOnTheLineOfAComboBox();
+    void worksOnWhatHadTheFocusBeforeTheMenuBar();
 
 private:
     QAction& action(const char* name) const
@@ -50,6 +53,7 @@ private:
     QLineEdit* m_line = nullptr;
     QPlainTextEdit* m_text = nullptr;
     QPushButton* m_button = nullptr;
+    QComboBox* m_combo = nullptr;
     QMenu* m_menu = nullptr;
 };
 
@@ -61,6 +65,8 @@ void EditMenuTest::init()
     m_line = new QLineEdit(contents);
     m_text = new QPlainTextEdit(contents);
     m_button = new QPushButton(contents);
+    m_combo = new QComboBox(contents);
+    m_combo->setEditable(true);
     m_window->setCentralWidget(contents);
     addEditMenu(*m_window->menuBar());
     m_menu = m_window->findChild<QMenu*>(u"editMenu"_s);
@@ -153,6 +159,28 @@ void EditMenuTest::answersKeysWhateverTheMenuShowedLast()
     QVERIFY(!enabled().contains(u"undo"_s));
     for (const QAction* const item : m_menu->actions())
         QVERIFY(item->isEnabled());
+}
+
+void EditMenuTest::worksOnTheLineOfAComboBox()
+{
+    m_combo->setFocus();
+    QTest::keyClicks(m_combo, u"Emma"_s);
+    QCOMPARE(enabled(), QStringList({u"undo"_s, u"selectAll"_s}));
+    action("selectAll").trigger();
+    action("cut").trigger();
+    QCOMPARE(m_combo->currentText(), QString());
+    action("paste").trigger();
+    QCOMPARE(m_combo->currentText(), u"Emma"_s);
+}
+
+void EditMenuTest::worksOnWhatHadTheFocusBeforeTheMenuBar()
+{
+    m_line->setFocus();
+    QTest::keyClicks(m_line, u"Emma"_s);
+    m_window->menuBar()->setFocus(Qt::MenuBarFocusReason); // as walking through menus by keys does
+    QCOMPARE(enabled(), QStringList({u"undo"_s, u"selectAll"_s}));
+    action("selectAll").trigger();
+    QCOMPARE(m_line->selectedText(), u"Emma"_s);
 }
 
 QTEST_MAIN(EditMenuTest)

@@ -88,6 +88,7 @@ private Q_SLOTS:
     void asksBeforeReverting();
     void asksBeforeAllAreClosed();
     void asksAgainWhenTheWindowWasClosedUnderTheQuestion();
+    void givesUpQuittingWhenTheQuestionGoesWithItsWindow();
     void countsAsUnsavedWorkOfTheDocument();
     void destroysARemovedWindowBeforeItsDocument();
     void makesItsDocumentTheCurrentOne();
@@ -248,6 +249,22 @@ void UnsavedWorkTest::asksAgainWhenTheWindowWasClosedUnderTheQuestion()
     desk.controller.close(document);
     QCOMPARE(desk.alerts.sheets.size(), 1);
     QCOMPARE(desk.alerts.sheets.first().alert.informativeText, u"Keep 'two'?"_s);
+}
+
+void UnsavedWorkTest::givesUpQuittingWhenTheQuestionGoesWithItsWindow()
+{
+    DocumentDesk desk;
+    TextDocument& document = open(desk);
+    NoteWindow& note = addNote(document, "one");
+    QList<bool> answers;
+    desk.controller.closeAll([&](bool happened) { answers.append(happened); });
+    QVERIFY(desk.controller.isClosingAll());
+    note.dropWork();
+    desk.alerts.sheets.clear(); // as a sheet goes with its window
+    QCOMPARE(answers, QList<bool>{false});
+    QVERIFY(!desk.controller.isClosingAll());
+    desk.controller.closeAll([&](bool happened) { answers.append(happened); });
+    QCOMPARE(answers, QList<bool>({false, true}));
 }
 
 void UnsavedWorkTest::countsAsUnsavedWorkOfTheDocument()

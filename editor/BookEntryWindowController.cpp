@@ -1,0 +1,327 @@
+#include "editor/BookEntryWindowController.h"
+
+#include "document/BookListDocument.h"
+#include "editor/CustomLabels.h"
+#include "editor/EditorMenus.h"
+#include "editor/EntryForm.h"
+#include "editor/ImageWells.h"
+#include "editor/ui_BookEntryWindow.h"
+#include "model/TextTrimming.h"
+#include "platform/PreferenceKeys.h"
+#include "platform/UserDefaults.h"
+
+#include <QDrag>
+#include <QScreen>
+#include <QShortcut>
+#include <QTextDocument>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace tomely {
+
+namespace {
+
+constexpr qint32 audioBook = 2;
+constexpr int standardTab = 0;
+constexpr int customTab = 1;
+
+constexpr int visibleLetters = 26; // of a shop's or a place's name
+constexpr int titleBarHeight = 40; // of the frame that the window manager adds, generously
+
+} // namespace
+
+std::unique_ptr<BookEntryWindowController> BookEntryWindowController::initWithRect(
+    QRect frame, BookListDocument& document, const EditorServices& services)
+{
+    std::unique_ptr<BookEntryWindowController> editor(
+        new BookEntryWindowController(document, services));
+    if (frame.width() > 0)
+        editor->window()->setGeometry(frame);
+    editor->fillNew();
+    return editor;
+}
+
+std::unique_ptr<BookEntryWindowController> BookEntryWindowController::initWithEntry(
+    const BookEntry& entry, BookListDocument& document, const EditorServices& services)
+{
+    std::unique_ptr<BookEntryWindowController> editor(
+        new BookEntryWindowController(document, services));
+    editor->fill(entry);
+    return editor;
+}
+
+BookEntryWindowController::BookEntryWindowController(
+    BookListDocument& document, EditorServices services)
+    : WindowController(document)
+    , m_document(document)
+    , m_services(std::move(services))
+    , m_ui(std::make_unique<Ui::BookEntryWindow>())
+{
+    window()->setWindowModified(false);
+    m_ui->setupUi(window());
+    init_common();
+    windowDidLoad();
+}
+
+BookEntryWindowController::~BookEntryWindowController() = default;
+
+// Building
+
+void BookEntryWindowController::init_common()
+{
+    m_form = std::make_unique<EntryForm>(*window(), QLocale());
+    m_labels = std::make_unique<CustomLabels>(*window(), m_document);
+    m_wells = std::make_unique<ImageWells>(*window(), m_services.panels);
+    setSaveEnabled(false);
+    // Whatever text changes, the title is looked at.
+    const auto texts = window()->findChildren<QLineEdit*>();
+    for (const QLineEdit* const text : texts)
+        connect(text, &QLineEdit::textChanged, this, &BookEntryWindowController::textDidChange);
+    connect(m_ui->m_idNotes, &QPlainTextEdit::textChanged, this,
+        &BookEntryWindowController::textDidChange);
+    m_labels->initCustomLabels();
+    reloadCombos();
+}
+
+void BookEntryWindowController::windowDidLoad()
+{
+    m_ui->m_idNotes->setSpellChecker(m_services.spellChecker);
+    m_ui->m_idCustomHint->setForegroundRole(QPalette::PlaceholderText);
+    const int nameWidth = window()->fontMetrics().averageCharWidth() * visibleLetters;
+    m_ui->m_idPricePaidFrom->setMinimumWidth(nameWidth);
+    m_ui->m_idLocation->setMinimumWidth(nameWidth);
+    m_ui->m_idProgressIndicator->hide();
+    m_ui->m_idLookupButton->hide();
+    m_ui->m_idGroupButton->hide();
+    connect(m_ui->m_idSaveButton, &QPushButton::clicked, this,
+        [this] { saveEntry(m_ui->m_idSaveButton); });
+    connect(
+        m_ui->m_idAddMoreButton, &QPushButton::clicked, this, &BookEntryWindowController::addMore);
+    connect(m_ui->m_idCancelButton, &QPushButton::clicked, this,
+        &BookEntryWindowController::cancelEntry);
+    connect(m_ui->m_idType, &QComboBox::currentIndexChanged, this,
+        &BookEntryWindowController::changedBookType);
+    connect(this, &WindowController::closeRequested, this, &BookEntryWindowController::cancelEntry);
+    connect(
+        this, &WindowController::activated, this, &BookEntryWindowController::windowDidBecomeKey);
+    connect(new QShortcut(Qt::Key_Escape, window()), &QShortcut::activated, this,
+        &BookEntryWindowController::cancelEntry);
+    addEditorMenus(*window()->menuBar(),
+        {[this] { saveEntry(m_ui->m_idSaveButton); }, [this] { addMore(); },
+            [this] { cancelEntry(); },
+            [this] {
+                return m_ui->m_idSaveButton->isEnabled();
+            }});
+    window()->resize(preferredSize());
+}
+
+QSize BookEntryWindowController::preferredSize() const
+{
+    // A scroll area asks for less than what it shows.
+    const QSize hidden = m_ui->m_idStandardPage->sizeHint() - m_ui->m_idStandardScroll->sizeHint();
+    const QSize screen = window()->screen()->availableSize() - QSize(0, titleBarHeight);
+    return (window()->sizeHint() + hidden.expandedTo({0, 0})).boundedTo(screen);
+}
+
+void BookEntryWindowController::selectFirstTab(bool isNew)
+{
+    const UserDefaults& defaults = m_services.defaults;
+    const bool opensCustomTab = defaults.boolForKey(PreferenceKeys::OpenCustomTab);
+    m_ui->m_idTab->setCurrentIndex(opensCustomTab ? customTab : standardTab);
+    if (opensCustomTab)
+        m_ui->m_idCustomField1->setFocus();
+    else if (isNew && defaults.boolForKey(PreferenceKeys::SetFocusToISBNField))
+        m_ui->m_idISBN->setFocus();
+    else
+        m_ui->m_idTitle->setFocus();
+}
+
+void BookEntryWindowController::fillNew()
+{
+    selectFirstTab(true);
+    m_form->clear();
+    presetUserDefaults();
+    m_form->settle();
+    m_wells->fill(BookEntry());
+    m_dSelectedGroups = {};
+    setSaveEnabled(false);
+    changedBookType();
+    updateTitle();
+}
+
+void BookEntryWindowController::fill(const BookEntry& entry)
+{
+    selectFirstTab(false);
+    m_strBookKey = entry.getKey();
+    m_dSelectedGroups = entry.getSelectedGroups();
+    m_form->fill(entry);
+    m_wells->fill(entry);
+    setSaveEnabled(true);
+    changedBookType();
+    updateTitle();
+}
+
+void BookEntryWindowController::presetUserDefaults()
+{
+    const QDate today = m_services.today();
+    const UserDefaults& defaults = m_services.defaults;
+    const auto preset = [&](QLatin1StringView key, PopUpButton& month, QLineEdit& year) {
+        if (!defaults.boolForKey(key))
+            return;
+        month.selectTag(today.month());
+        year.setText(QString::number(today.year()));
+    };
+    preset(PreferenceKeys::SetFirstReadToCurrentDate, *m_ui->m_idMonthFirstRead,
+        *m_ui->m_idYearFirstRead);
+    preset(PreferenceKeys::SetLastReadToCurrentDate, *m_ui->m_idMonthLastRead,
+        *m_ui->m_idYearLastRead);
+    preset(PreferenceKeys::SetPurchasedToCurrentDate, *m_ui->m_idMonthPurchased,
+        *m_ui->m_idYearPurchased);
+    if (defaults.boolForKey(PreferenceKeys::SetReadFlag))
+        m_ui->m_idRead->setChecked(true);
+}
+
+// Combo boxes
+
+QList<std::pair<CompletingComboBox*, QStringList>> BookEntryWindowController::combos() const
+{
+    return {{m_ui->m_idAuthor, m_document.getAuthors()},
+        {m_ui->m_idPricePaidFrom, m_document.getPricePaidLocations()},
+        {m_ui->m_idPublisher, m_document.getPublishers()},
+        {m_ui->m_idLocation, m_document.getLocations()}};
+}
+
+void BookEntryWindowController::reloadCombos()
+{
+    for (const auto& [combo, values] : combos())
+        combo->setValues(values);
+    setComboSizes();
+}
+
+void BookEntryWindowController::setComboSizes()
+{
+    for (const auto& [combo, values] : combos())
+        combo->updateVisibleItems();
+}
+
+// The window
+
+QString BookEntryWindowController::windowTitle() const
+{
+    const BookEntry* const book =
+        m_strBookKey.isNull() ? nullptr : m_document.getBookEntry(m_strBookKey);
+    return book ? tr("%1 - %2").arg(m_document.displayName(), book->getTitle())
+                : tr("%1 - New Entry").arg(m_document.displayName());
+}
+
+void BookEntryWindowController::windowDidBecomeKey()
+{
+    if (m_isClosed)
+        return;
+    if (BookListWindow* const list = m_document.getWindowController())
+        list->endGroupNameEditting();
+    reloadCombos();
+    updateTitle(); // the list may have renamed the book
+}
+
+void BookEntryWindowController::textDidChange()
+{
+    setSaveEnabled(!trimmedText(m_ui->m_idTitle->text()).isEmpty());
+}
+
+void BookEntryWindowController::setSaveEnabled(bool enabled)
+{
+    m_ui->m_idSaveButton->setEnabled(enabled);
+    m_ui->m_idAddMoreButton->setEnabled(enabled);
+}
+
+void BookEntryWindowController::changedBookType()
+{
+    const bool isHeard = m_ui->m_idType->selectedTag() == audioBook;
+    m_ui->m_idRead->setText(isHeard ? tr("Listened To") : tr("Read"));
+}
+
+QString BookEntryWindowController::getISBN() const
+{
+    return m_ui->m_idISBN->text();
+}
+
+void BookEntryWindowController::updateColumnName()
+{
+    m_labels->initCustomLabels();
+}
+
+void BookEntryWindowController::endEditing()
+{
+    m_labels->endEditing();
+}
+
+// Saving and closing
+
+bool BookEntryWindowController::saveEntry(const QObject* sender)
+{
+    if (m_isClosed || !m_ui->m_idSaveButton->isEnabled())
+        return false;
+    m_labels->endEditing();
+    BookEntry* book = m_strBookKey.isNull() ? nullptr : m_document.getBookEntry(m_strBookKey);
+    std::unique_ptr<BookEntry> added;
+    if (!book) {
+        added = std::make_unique<BookEntry>();
+        book = added.get();
+    }
+    m_form->write(*book);
+    book->setSelectedGroups(m_dSelectedGroups);
+    m_wells->write(*book, m_services.defaults);
+    // A collection that has given away all its numbers takes no book; the editor keeps it then.
+    if (added && !m_document.addBook(std::move(added)))
+        return false;
+    m_document.setBooksChanged();
+    m_document.refresh();
+    if (sender != this)
+        closeEditor();
+    return true;
+}
+
+void BookEntryWindowController::addMore()
+{
+    if (!saveEntry(this))
+        return;
+    m_document.addNewBook(
+        window()->isMaximized() ? window()->normalGeometry() : window()->geometry());
+    closeEditor();
+}
+
+void BookEntryWindowController::cancelEntry()
+{
+    closeEditor();
+}
+
+void BookEntryWindowController::closeEditor()
+{
+    if (m_isClosed)
+        return;
+    m_isClosed = true;
+    QDrag::cancel(); // a picture may be on its way out of a well that goes
+    window()->hide();
+    m_document.removeWindowController(this);
+}
+
+std::optional<UnsavedWork> BookEntryWindowController::unsavedWork() const
+{
+    if (m_isClosed || !(m_form->isChanged() || m_wells->isChanged()))
+        return std::nullopt;
+    const QString title = trimmedText(m_ui->m_idTitle->text());
+    return UnsavedWork{title.isEmpty()
+            ? tr("This book has no title yet and cannot be saved.\n\nDo you want to discard it?")
+            : tr("Do you want to save the changes to the book '%1'?").arg(title),
+        m_ui->m_idSaveButton->isEnabled()};
+}
+
+bool BookEntryWindowController::keepWork()
+{
+    return saveEntry(nullptr);
+}
+
+} // namespace tomely

@@ -23,9 +23,9 @@ enum class KeyScope {
 };
 
 struct Command {
-    CommandId id;
+    CommandId id = CommandId::AddBook;
     QLatin1StringView name; // of its action
-    const char* text; // in menus, untranslated
+    const char* text = ""; // in menus, untranslated
     QLatin1StringView icon; // of the desktop's theme; may be empty
     QList<QKeySequence> keys;
     KeyScope keyScope = KeyScope::Window;

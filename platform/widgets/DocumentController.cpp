@@ -252,7 +252,7 @@ void DocumentController::saveAs(Document& document, Done done)
 
 // Reverting
 
-void DocumentController::revert(Document& document, Done done)
+void DocumentController::revert(Document& document, const Done& done)
 {
     if (WaitPanel::isWaiting() || document.filePath().isEmpty())
         return answer(done, false);
@@ -296,7 +296,7 @@ void DocumentController::reopen(Document& document, const Done& done)
 
 // Closing
 
-void DocumentController::close(Document& document, Done done)
+void DocumentController::close(Document& document, const Done& done)
 {
     if (WaitPanel::isWaiting())
         return answer(done, false);

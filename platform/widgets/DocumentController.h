@@ -70,11 +70,11 @@ public:
     void saveAs(Document& document, Done done = {});
 
     /// Opens the file again in place of the document; asks first when there are changes to lose.
-    void revert(Document& document, Done done = {});
+    void revert(Document& document, const Done& done = {});
 
     /// Closes the document; asks first when there are unsaved changes or one of its windows holds
     /// work that the document does not have yet.
-    void close(Document& document, Done done = {});
+    void close(Document& document, const Done& done = {});
 
     /// Closes all documents one after another, until the person cancels.
     void closeAll(Done done = {});

@@ -16,12 +16,16 @@ namespace tomely {
 
 namespace {
 
+constexpr qsizetype longestText = 80; // a menu is not to be wider than its window
+
 /// A window's title as a menu shows it, without the place of the mark for unsaved changes.
 QString itemText(const QWidget& window)
 {
     QString title = window.windowTitle();
     title.remove(title.lastIndexOf("[*]"_L1), 3);
     title.replace("[*][*]"_L1, "[*]"_L1);
+    if (title.size() > longestText)
+        title = title.first(longestText) + u'…';
     return title.replace(u'&', "&&"_L1);
 }
 

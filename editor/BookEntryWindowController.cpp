@@ -11,11 +11,15 @@
 #include "platform/UserDefaults.h"
 
 #include <QDrag>
+#include <QKeyEvent>
+#include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -37,8 +41,10 @@ std::unique_ptr<BookEntryWindowController> BookEntryWindowController::initWithRe
 {
     std::unique_ptr<BookEntryWindowController> editor(
         new BookEntryWindowController(document, services));
-    if (frame.width() > 0)
+    if (frame.width() > 0) {
         editor->window()->setGeometry(frame);
+        editor->m_isPlaced = true;
+    }
     editor->fillNew();
     return editor;
 }
@@ -106,15 +112,62 @@ void BookEntryWindowController::windowDidLoad()
     connect(this, &WindowController::closeRequested, this, &BookEntryWindowController::cancelEntry);
     connect(
         this, &WindowController::activated, this, &BookEntryWindowController::windowDidBecomeKey);
-    connect(new QShortcut(Qt::Key_Escape, window()), &QShortcut::activated, this,
-        &BookEntryWindowController::cancelEntry);
+    for (const auto& [key, tab] :
+        {std::pair(Qt::Key_PageUp, standardTab), std::pair(Qt::Key_PageDown, customTab)}) {
+        connect(new QShortcut(Qt::CTRL | key, window()), &QShortcut::activated, m_ui->m_idTab,
+            [tabs = m_ui->m_idTab, index = tab] { tabs->setCurrentIndex(index); });
+    }
     addEditorMenus(*window()->menuBar(),
         {[this] { saveEntry(m_ui->m_idSaveButton); }, [this] { addMore(); },
             [this] { cancelEntry(); },
             [this] {
                 return m_ui->m_idSaveButton->isEnabled();
             }});
+}
+
+bool BookEntryWindowController::eventFilter(QObject* watched, QEvent* event)
+{
+    // A key that no part of the window took. As a shortcut it would come before the parts, and an
+    // open list that it closes would take the window along.
+    if (watched == window() && event->type() == QEvent::KeyPress
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        cancelEntry();
+        return true;
+    }
+    return WindowController::eventFilter(watched, event);
+}
+
+void BookEntryWindowController::showWindow()
+{
+    // Only now does the window know its style and font, and with them what its parts need.
+    if (!std::exchange(m_isPlaced, true))
+        place();
+    WindowController::showWindow();
+}
+
+void BookEntryWindowController::place()
+{
+    window()->ensurePolished();
+    const auto parts = window()->findChildren<QWidget*>();
+    for (const QWidget* const part : parts)
+        part->ensurePolished();
+    const auto layouts = window()->findChildren<QLayout*>();
+    for (QLayout* const layout : layouts)
+        layout->invalidate();
     window()->resize(preferredSize());
+    const auto* const list = qobject_cast<QWidget*>(m_document.mainWindow()->windowObject());
+    if (!list)
+        return;
+    // Over the list, each next one a little lower, so that none hides another.
+    const int others = static_cast<int>(m_document.windowControllers().size()) - 2;
+    QRect frame(QPoint(), window()->size());
+    frame.moveCenter(list->geometry().center() + QPoint(others, others) * titleBarHeight);
+    const QRect screen = list->screen()->availableGeometry();
+    frame.moveLeft(std::clamp(
+        frame.left(), screen.left(), std::max(screen.left(), screen.right() - frame.width())));
+    frame.moveTop(std::clamp(frame.top(), screen.top() + titleBarHeight,
+        std::max(screen.top() + titleBarHeight, screen.bottom() - frame.height())));
+    window()->setGeometry(frame);
 }
 
 QSize BookEntryWindowController::preferredSize() const
@@ -122,7 +175,13 @@ QSize BookEntryWindowController::preferredSize() const
     // A scroll area asks for less than what it shows.
     const QSize hidden = m_ui->m_idStandardPage->sizeHint() - m_ui->m_idStandardScroll->sizeHint();
     const QSize screen = window()->screen()->availableSize() - QSize(0, titleBarHeight);
-    return (window()->sizeHint() + hidden.expandedTo({0, 0})).boundedTo(screen);
+    QSize wanted = window()->sizeHint() + hidden.expandedTo({0, 0});
+    // On a small screen a scroll bar takes its room from the other direction.
+    const int bar = window()->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, window());
+    const bool isTooWide = wanted.width() > screen.width();
+    const bool isTooHigh = wanted.height() > screen.height();
+    wanted += QSize(isTooHigh ? bar : 0, isTooWide ? bar : 0);
+    return wanted.boundedTo(screen);
 }
 
 void BookEntryWindowController::selectFirstTab(bool isNew)

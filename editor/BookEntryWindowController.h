@@ -77,6 +77,9 @@ public:
     /// The read switch is about listening for an audio book.
     void changedBookType();
 
+    /// The first call gives a window without a frame its size and a place over the list.
+    void showWindow() override;
+
     void updateColumnName() override;
     void closeEditor() override;
 
@@ -89,6 +92,7 @@ public:
     void endEditing() override;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     QString windowTitle() const override;
 
     /// The book is written on save only, so the window never shows the mark for unsaved changes.
@@ -99,6 +103,7 @@ private:
 
     void init_common();
     void windowDidLoad();
+    void place();
     QSize preferredSize() const;
     void fillNew();
     void fill(const BookEntry& entry);
@@ -118,6 +123,7 @@ private:
     std::unique_ptr<ImageWells> m_wells;
     QString m_strBookKey; // null for a new book
     GroupMembership m_dSelectedGroups; // the editor's own copy
+    bool m_isPlaced = false;
     bool m_isClosed = false;
 };
 

@@ -50,6 +50,7 @@ void CustomLabels::addRow(QWidget& window, const QString& name, const QStringLis
         row.controls.push_back(window.findChild<QWidget*>(control));
         row.controls.back()->installEventFilter(this);
     }
+    row.label->setBuddy(row.controls.front());
     connect(row.label, &EditableLabel::edited, this,
         [this, row](const QString& text) { editCustomLabel(row, text); });
     m_rows.push_back(std::move(row));

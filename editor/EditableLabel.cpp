@@ -88,8 +88,14 @@ void EditableLabel::becomeLabel()
     followText();
     if (!hadFocus)
         return;
-    if (m_previousFocus && m_previousFocus != this && m_previousFocus->isVisible())
+    const auto canTakeFocus = [this](const QWidget* widget) {
+        return widget && widget != this && widget->isVisible()
+            && (widget->focusPolicy() & Qt::TabFocus) != 0;
+    };
+    if (canTakeFocus(m_previousFocus))
         m_previousFocus->setFocus(Qt::OtherFocusReason);
+    else if (canTakeFocus(m_buddy))
+        m_buddy->setFocus(Qt::OtherFocusReason);
     else
         clearFocus();
 }

@@ -20,6 +20,9 @@ public:
 
     bool isEditing() const { return m_isEditing; }
 
+    /// What it names, which gets the focus after renaming when nothing else had it before.
+    void setBuddy(QWidget* buddy) { m_buddy = buddy; }
+
     /// Turns the label into a text field with the focus and all of its text selected.
     void startEditing();
 
@@ -52,6 +55,7 @@ private:
 
     QString m_labelText; // what it says while nobody edits it
     QPointer<QWidget> m_previousFocus;
+    QPointer<QWidget> m_buddy;
     int m_shownWidth = 0; // of the text
     bool m_isEditing = false;
 };

@@ -1,8 +1,10 @@
 #include "platform/widgets/MessageBoxAlerts.h"
 
 #include <QAbstractButton>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpacerItem>
 
 #include <memory>
 
@@ -14,6 +16,7 @@ namespace {
 
 /// A message with a title or a path of any length still fits the screen.
 constexpr qsizetype longestText = 800;
+constexpr int lettersInALine = 56;
 
 QString buttonName(qsizetype index)
 {
@@ -49,6 +52,10 @@ std::unique_ptr<QMessageBox> makeBox(const Alert& alert, QWidget* parent)
         if (index == alert.escapeButton)
             box->setEscapeButton(button);
     }
+    // A sentence reads better in a line or two than in a column.
+    if (auto* const layout = qobject_cast<QGridLayout*>(box->layout()))
+        layout->addItem(new QSpacerItem(box->fontMetrics().averageCharWidth() * lettersInALine, 0),
+            layout->rowCount(), 0, 1, layout->columnCount());
     return box;
 }
 

@@ -37,7 +37,7 @@ public:
     TwoEditors()
         : window(program.open(program.smallCollection(u"small.books"_s)))
         , emma(edited(u"Emma"_s, u"2"_s, {0, 0}))
-        , kim(edited(u"Kim"_s, {}, {900, 0}))
+        , kim(edited(u"Kim"_s, {}, {1400, 0}))
     {
     }
 

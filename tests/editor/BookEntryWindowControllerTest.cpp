@@ -12,12 +12,15 @@
 #include "tests/support/BookSamples.h"
 #include "tests/support/Files.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -89,6 +92,10 @@ private Q_SLOTS:
     void takesOverANameThatIsBeingTyped_data();
     void takesOverANameThatIsBeingTyped();
     void leavesReturnInALineAlone();
+    void closesAnOpenListByEscapeAlone_data();
+    void closesAnOpenListByEscapeAlone();
+    void showsEverythingWithoutScrolling();
+    void changesItsTabByKeys();
     void walksThroughTheFieldsInReadingOrder();
     void namesEachFieldForAScreenReader();
     void keepsTheGroupsThatItOpenedWith();
@@ -411,6 +418,54 @@ void BookEntryWindowControllerTest::leavesReturnInALineAlone()
         QVERIFY(editor.window()->isVisible());
     }
     QVERIFY(!desk.document.isDocumentEdited());
+}
+
+void BookEntryWindowControllerTest::closesAnOpenListByEscapeAlone_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("pop-up") << u"m_idType"_s;
+    QTest::newRow("combo box") << u"m_idAuthor"_s;
+}
+
+void BookEntryWindowControllerTest::closesAnOpenListByEscapeAlone()
+{
+    QFETCH(const QString, name);
+    EditorDesk desk;
+    desk.document.setAuthors({u"Jane Austen"_s});
+    const QPointer<BookEntryWindowController> editor = &desk.openNew();
+    QVERIFY(QTest::qWaitForWindowActive(editor->window()));
+    auto& combo = EditorDesk::find<QComboBox>(*editor, name);
+    combo.setFocus();
+    combo.showPopup();
+    QVERIFY(QTest::qWaitForWindowExposed(combo.view()->window()));
+    QTest::keyClick(combo.view(), Qt::Key_Escape);
+    QTRY_VERIFY(!combo.view()->isVisible());
+    QVERIFY(editor && editor->window()->isVisible());
+    QTest::keyClick(&combo, Qt::Key_Escape);
+    QTRY_VERIFY(!editor);
+}
+
+void BookEntryWindowControllerTest::showsEverythingWithoutScrolling()
+{
+    EditorDesk desk;
+    const BookEntryWindowController& editor = desk.openNew();
+    QVERIFY(QTest::qWaitForWindowExposed(editor.window()));
+    const auto& area = EditorDesk::find<QScrollArea>(editor, u"m_idStandardScroll"_s);
+    const QSize missing = area.widget()->minimumSizeHint() - area.viewport()->size();
+    const QSize screen = editor.window()->screen()->availableSize();
+    QVERIFY(missing.width() <= 0 || editor.window()->width() >= screen.width());
+    QVERIFY(missing.height() <= 0 || editor.window()->height() + 60 >= screen.height());
+}
+
+void BookEntryWindowControllerTest::changesItsTabByKeys()
+{
+    EditorDesk desk;
+    const BookEntryWindowController& editor = desk.openNew();
+    QVERIFY(QTest::qWaitForWindowActive(editor.window()));
+    QTest::keyClick(editor.window()->focusWidget(), Qt::Key_PageDown, Qt::ControlModifier);
+    QCOMPARE(currentTab(editor), 1);
+    QTest::keyClick(editor.window(), Qt::Key_PageUp, Qt::ControlModifier);
+    QCOMPARE(currentTab(editor), 0);
 }
 
 void BookEntryWindowControllerTest::walksThroughTheFieldsInReadingOrder()

@@ -42,6 +42,8 @@ void Document::setUntitledName(const QString& name)
 
 std::optional<DocumentFailure> Document::readFromFile(const QString& path, const Progress& progress)
 {
+    // Before it is read, so that a change during the reading is noticed later.
+    const FileState state = fileState(path);
     try {
         const auto bytes = readWholeFile(path, halfOf(progress, 0));
         if (const QString* const error = std::get_if<QString>(&bytes))
@@ -54,9 +56,22 @@ std::optional<DocumentFailure> Document::readFromFile(const QString& path, const
         return DocumentFailure{tr("There is not enough memory")};
     }
     m_filePath = QFileInfo(path).absoluteFilePath();
+    m_fileState = state;
     clearChangeCount();
     Q_EMIT nameChanged();
     return std::nullopt;
+}
+
+Document::FileState Document::fileState(const QString& path)
+{
+    const QFileInfo info(path);
+    return {info.lastModified(), info.size()};
+}
+
+bool Document::isFileChangedOutside() const
+{
+    return !m_filePath.isEmpty() && QFileInfo::exists(m_filePath)
+        && fileState(m_filePath) != m_fileState;
 }
 
 std::optional<DocumentFailure> Document::writeToFile(const QString& path, const Progress& progress)
@@ -72,6 +87,7 @@ std::optional<DocumentFailure> Document::writeToFile(const QString& path, const 
         return DocumentFailure{tr("There is not enough memory")};
     }
     m_filePath = QFileInfo(path).absoluteFilePath();
+    m_fileState = fileState(m_filePath);
     clearChangeCount();
     Q_EMIT nameChanged();
     return std::nullopt;

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QDateTime>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -62,6 +63,11 @@ public:
     virtual std::optional<DocumentFailure> writeToFile(
         const QString& path, const Progress& progress = {});
 
+    /// True when the document's file is not the one that was read or written last: another program
+    /// has changed or replaced it. False while there is none, since then nothing can be
+    /// overwritten.
+    bool isFileChangedOutside() const;
+
     /// Makes the document's windows; called once, after it is filled.
     virtual void makeWindowControllers() { }
 
@@ -101,9 +107,19 @@ protected:
     void destroyWindowControllers();
 
 private:
+    /// What tells one state of a file from another.
+    struct FileState {
+        QDateTime modified;
+        qint64 size = 0;
+
+        bool operator==(const FileState&) const = default;
+    };
+
+    static FileState fileState(const QString& path);
     void setEdited(bool edited);
 
     QString m_filePath;
+    FileState m_fileState; // when it was last read or written
     QString m_untitledName;
     bool m_edited = false;
     std::vector<std::unique_ptr<DocumentWindow>> m_windows;

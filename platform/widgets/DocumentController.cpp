@@ -224,7 +224,24 @@ void DocumentController::save(Document& document, Done done)
         return answer(done, false);
     if (document.filePath().isEmpty())
         return saveAs(document, std::move(done));
+    if (document.isFileChangedOutside())
+        return askToReplace(document, std::move(done));
     answer(done, write(document, document.filePath()));
+}
+
+void DocumentController::askToReplace(Document& document, Done done)
+{
+    const Alert question{
+        tr("The file of '%1' was changed by another program since you opened it.\n\nDo you want to "
+           "replace it with what you have here? What the other program wrote will be lost.")
+            .arg(document.displayName()),
+        {tr("Replace"), tr("Cancel")}, 1, 1};
+    m_environment.alerts.beginSheet(windowOf(document), question,
+        [this, target = QPointer(&document), done = std::move(done)](int button) {
+            if (!target || button != 0)
+                return answer(done, false);
+            answer(done, write(*target, target->filePath()));
+        });
 }
 
 void DocumentController::saveAs(Document& document, Done done)

@@ -65,7 +65,8 @@ public:
     /// or it failed, which an alert has said by then.
     using Done = std::function<void(bool happened)>;
 
-    /// Saves under the document's own file, or asks for one when it has none.
+    /// Saves under the document's own file, or asks for one when it has none. Asks before it
+    /// replaces a file that another program has changed since.
     void save(Document& document, Done done = {});
     void saveAs(Document& document, Done done = {});
 
@@ -102,6 +103,7 @@ private:
     bool beginAsking(const Document& document, DocumentWindow* window);
     void watchFurtherWindows(Document& document);
     void settleWindows(Document& document, Done done);
+    void askToReplace(Document& document, Done done);
     void askToSave(Document& document, Done done);
     void askToRevert(Document& document, Done done);
     void reopen(Document& document, const Done& done);

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void closesOrKeepsAsAnswered_data();
     void closesOrKeepsAsAnswered();
     void keepsADocumentThatCannotBeSaved();
+    void asksBeforeItReplacesWhatAnotherProgramWrote_data();
+    void asksBeforeItReplacesWhatAnotherProgramWrote();
+    void asksNothingAboutItsOwnWriting();
     void savesAnUntitledDocumentBeforeItCloses_data();
     void savesAnUntitledDocumentBeforeItCloses();
     void asksOnlyOnce();
@@ -133,6 +136,48 @@ void DocumentQuestionsTest::keepsADocumentThatCannotBeSaved()
     QVERIFY(desk.windowOf(document)->isVisible());
     desk.controller.close(document);
     QCOMPARE(desk.alerts.sheets.size(), 1); // it can be asked again
+}
+
+void DocumentQuestionsTest::asksBeforeItReplacesWhatAnotherProgramWrote_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("Replace") << 0 << QByteArray("newer");
+    QTest::newRow("Cancel") << 1 << QByteArray("by another program");
+}
+
+void DocumentQuestionsTest::asksBeforeItReplacesWhatAnotherProgramWrote()
+{
+    QFETCH(const int, button);
+    QFETCH(const QByteArray, text);
+    DocumentDesk desk;
+    TextDocument& document = desk.edited(u"Emma.books"_s);
+    QVERIFY(writeFile(desk.path(u"Emma.books"_s), "by another program"));
+    QList<bool> answers;
+    desk.controller.save(document, [&](bool happened) { answers.append(happened); });
+    QVERIFY(answers.isEmpty());
+    QCOMPARE(desk.alerts.sheets.size(), 1);
+    QCOMPARE(desk.alerts.sheets.first().window, desk.windowOf(document));
+    QCOMPARE(desk.alerts.sheets.first().alert.defaultButton, 1); // no stray Return loses anything
+    reply(desk, button);
+    QCOMPARE(answers, QList<bool>{button == 0});
+    QCOMPARE(readFile(desk.path(u"Emma.books"_s)), text);
+    QCOMPARE(document.isDocumentEdited(), button != 0);
+}
+
+void DocumentQuestionsTest::asksNothingAboutItsOwnWriting()
+{
+    DocumentDesk desk;
+    TextDocument& document = desk.edited(u"Emma.books"_s);
+    desk.controller.save(document);
+    document.text = "newest";
+    document.changeDone();
+    desk.controller.save(document);
+    QCOMPARE(readFile(desk.path(u"Emma.books"_s)), QByteArray("newest"));
+    QVERIFY(QFile::remove(desk.path(u"Emma.books"_s))); // nothing there to be lost
+    desk.controller.save(document);
+    QCOMPARE(readFile(desk.path(u"Emma.books"_s)), QByteArray("newest"));
+    QVERIFY(desk.alerts.sheets.isEmpty());
 }
 
 void DocumentQuestionsTest::savesAnUntitledDocumentBeforeItCloses_data()

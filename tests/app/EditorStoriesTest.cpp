@@ -4,9 +4,9 @@
 #include "editor/EditableLabel.h"
 #include "editor/EntryForm.h"
 #include "model/BookField.h"
+#include "tests/support/PlainPictures.h"
 #include "tests/support/SmallCollection.h"
 
-#include <QBuffer>
 #include <QClipboard>
 #include <QComboBox>
 #include <QMainWindow>
@@ -23,12 +23,7 @@ namespace {
 
 QByteArray png(const QColor& color, QSize size)
 {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
-    return bytes;
+    return samples::plainPicture(color, size, "PNG");
 }
 
 /// Drops a file on a well as another program does.

@@ -1,9 +1,9 @@
 #include "editor/DraggableImageView.h"
 #include "model/Picture.h"
 #include "tests/app/ProgramOnScreen.h"
+#include "tests/support/PlainPictures.h"
 #include "tests/support/RealMouse.h"
 
-#include <QBuffer>
 #include <QDrag>
 #include <QMainWindow>
 #include <QtTest>
@@ -18,12 +18,7 @@ const QSize pictureSize(60, 90);
 
 QByteArray jpeg()
 {
-    QImage image(pictureSize, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "JPEG");
-    return bytes;
+    return plainPicture(Qt::red, pictureSize);
 }
 
 QPoint middleOf(const QWidget& widget)
@@ -88,6 +83,28 @@ void addPull(InputStory& story, const DraggableImageView& well)
         [&well] { return well.findChild<QDrag*>() != nullptr; });
 }
 
+/// Carries the drag to a place and waits until it is promised a copy there; `promised` must outlive
+/// the story.
+void addCarry(InputStory& story, const DraggableImageView& source, const QWidget& place,
+    Qt::DropAction& promised)
+{
+    story.once(
+        "the drag speaks",
+        [&source, &promised] {
+            auto* const drag = source.findChild<QDrag*>();
+            QObject::connect(drag, &QDrag::actionChanged, drag,
+                [&promised](Qt::DropAction action) { promised = action; });
+        },
+        [] { return true; });
+    story.repeat(
+        "the drag is welcome",
+        [&place, far = false]() mutable {
+            far = !far;
+            moveMouse(middleOf(place) + QPoint(far ? 2 : 0, 0));
+        },
+        [&promised] { return promised == Qt::CopyAction; });
+}
+
 } // namespace
 
 // What a person does with pictures and a real mouse, in editors of the program.
@@ -111,20 +128,7 @@ void PictureStoriesTest::dragsACoverFromOneBookToAnother()
     Qt::DropAction promised = Qt::IgnoreAction;
     InputStory story;
     addPull(story, source);
-    story.once(
-        "the drag speaks",
-        [&] {
-            connect(source.findChild<QDrag*>(), &QDrag::actionChanged, this,
-                [&promised](Qt::DropAction action) { promised = action; });
-        },
-        [] { return true; });
-    story.repeat(
-        "the drag is welcome",
-        [&target, far = false]() mutable {
-            far = !far;
-            moveMouse(middleOf(target) + QPoint(far ? 6 : 0, 0));
-        },
-        [&promised] { return promised == Qt::CopyAction; });
+    addCarry(story, source, target, promised);
     story.once(
         "the drop", [] { releaseMouse(); }, [&target] { return target.picture().isValid(); });
     const QByteArray stuck = story.run();
@@ -154,20 +158,7 @@ void PictureStoriesTest::dropsOnTheClearButtonOfAWell()
     Qt::DropAction promised = Qt::IgnoreAction;
     InputStory story;
     addPull(story, source);
-    story.once(
-        "the drag speaks",
-        [&] {
-            connect(source.findChild<QDrag*>(), &QDrag::actionChanged, this,
-                [&promised](Qt::DropAction action) { promised = action; });
-        },
-        [] { return true; });
-    story.repeat(
-        "the drag is welcome",
-        [&button, far = false]() mutable {
-            far = !far;
-            moveMouse(middleOf(button) + QPoint(far ? 2 : 0, 0));
-        },
-        [&promised] { return promised == Qt::CopyAction; });
+    addCarry(story, source, button, promised);
     story.once(
         "the drop", [] { releaseMouse(); },
         [&target] { return target.picture().size() == pictureSize; });

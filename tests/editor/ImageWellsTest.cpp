@@ -5,9 +5,9 @@
 #include "tests/editor/EditorDesk.h"
 #include "tests/support/BookSamples.h"
 #include "tests/support/Files.h"
+#include "tests/support/PlainPictures.h"
 
 #include <QAbstractButton>
-#include <QBuffer>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -19,12 +19,7 @@ namespace {
 
 QByteArray encoded(const QColor& color, QSize size = {40, 60}, const char* format = "JPEG")
 {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, format);
-    return bytes;
+    return samples::plainPicture(color, size, format);
 }
 
 Picture picture(const QColor& color, QSize size = {40, 60})

@@ -7,9 +7,9 @@
 #include "tests/support/BookSamples.h"
 #include "tests/support/FakeAlerts.h"
 #include "tests/support/FakeBookListWindow.h"
+#include "tests/support/PlainPictures.h"
 #include "tests/support/SmallCollection.h"
 
-#include <QBuffer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -50,12 +50,7 @@ private:
 
 QByteArray jpeg(QSize size)
 {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "JPEG");
-    return bytes;
+    return samples::plainPicture(Qt::blue, size);
 }
 
 } // namespace

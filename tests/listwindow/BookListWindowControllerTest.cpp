@@ -6,9 +6,9 @@
 #include "platform/widgets/ImageView.h"
 #include "tests/support/FakeAlerts.h"
 #include "tests/support/Files.h"
+#include "tests/support/PlainPictures.h"
 #include "tests/support/SmallCollection.h"
 
-#include <QBuffer>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
@@ -29,12 +29,7 @@ namespace {
 
 QByteArray jpeg(QSize size)
 {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "JPEG");
-    return bytes;
+    return samples::plainPicture(Qt::blue, size);
 }
 
 } // namespace

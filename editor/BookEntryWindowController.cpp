@@ -16,7 +16,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStyle>
-#include <QTextDocument>
 
 #include <algorithm>
 #include <utility>

@@ -14,8 +14,6 @@
 #include <functional>
 #include <memory>
 
-class QMenuBar;
-
 namespace Ui {
 class BookEntryWindow;
 }

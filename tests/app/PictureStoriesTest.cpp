@@ -2,7 +2,7 @@
 #include "model/Picture.h"
 #include "tests/app/ProgramOnScreen.h"
 #include "tests/support/PlainPictures.h"
-#include "tests/support/RealMouse.h"
+#include "tests/support/WellMouse.h"
 
 #include <QDrag>
 #include <QMainWindow>
@@ -19,11 +19,6 @@ const QSize pictureSize(60, 90);
 QByteArray jpeg()
 {
     return plainPicture(Qt::red, pictureSize);
-}
-
-QPoint middleOf(const QWidget& widget)
-{
-    return onScreen(widget, widget.rect().center());
 }
 
 /// Two editors side by side, of a book with a picture and of one without.
@@ -69,18 +64,8 @@ private:
 /// Pulls the picture out of a well until the drag is under way.
 void addPull(InputStory& story, const DraggableImageView& well)
 {
-    story.once(
-        "the mouse comes", [&well] { moveMouse(middleOf(well)); },
-        [&well] { return well.underMouse(); });
-    story.once(
-        "the press", [] { pressMouse(); }, [&well] { return well.downEvent() != nullptr; });
-    story.repeat(
-        "the drag begins",
-        [&well, distance = 0]() mutable {
-            distance += 7;
-            moveMouse(middleOf(well) + QPoint(distance, distance) / 2);
-        },
-        [&well] { return well.findChild<QDrag*>() != nullptr; });
+    samples::addPull(
+        story, well, "the drag begins", [&well] { return well.findChild<QDrag*>() != nullptr; });
 }
 
 /// Carries the drag to a place and waits until it is promised a copy there; `promised` must outlive
@@ -100,7 +85,7 @@ void addCarry(InputStory& story, const DraggableImageView& source, const QWidget
         "the drag is welcome",
         [&place, far = false]() mutable {
             far = !far;
-            moveMouse(middleOf(place) + QPoint(far ? 2 : 0, 0));
+            moveMouse(middleOnScreen(place) + QPoint(far ? 2 : 0, 0));
         },
         [&promised] { return promised == Qt::CopyAction; });
 }

@@ -4,7 +4,7 @@
 #include "editor/DraggableImageView.h"
 
 #include "tests/support/Files.h"
-#include "tests/support/RealMouse.h"
+#include "tests/support/WellMouse.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -122,18 +122,7 @@ std::function<QPoint()> middleOf(const QWidget& widget)
 /// Presses on the well and pulls until its drag is under way.
 void addPull(InputStory& story, Well& well)
 {
-    story.once(
-        "the mouse comes", [&well] { moveMouse(middleOf(well)()); },
-        [&well] { return well.underMouse(); });
-    story.once(
-        "the press", [] { pressMouse(); }, [&well] { return well.downEvent() != nullptr; });
-    story.repeat(
-        "the drag begins",
-        [&well, distance = 0]() mutable {
-            distance += 7;
-            moveMouse(middleOf(well)() + QPoint(distance, distance) / 2);
-        },
-        [&well] { return well.isDragging(); });
+    samples::addPull(story, well, "the drag begins", [&well] { return well.isDragging(); });
 }
 
 /// Carries the drag to a place and waits until the place has said that it takes it: a drop before
@@ -394,18 +383,8 @@ void PictureDragTest::anEmptyWellIsNotDragged()
     Well well({100, 100});
     QVERIFY(QTest::qWaitForWindowActive(&well));
     InputStory story;
-    story.once(
-        "the mouse comes", [&well] { moveMouse(middleOf(well)()); },
-        [&well] { return well.underMouse(); });
-    story.once(
-        "the press", [] { pressMouse(); }, [&well] { return well.downEvent() != nullptr; });
-    story.repeat(
-        "the event is cleared",
-        [&well, distance = 0]() mutable {
-            distance += 7;
-            moveMouse(middleOf(well)() + QPoint(distance, distance) / 2);
-        },
-        [&well] { return well.downEvent() == nullptr; });
+    samples::addPull(
+        story, well, "the event is cleared", [&well] { return well.downEvent() == nullptr; });
     story.once(
         "the release", [] { releaseMouse(); },
         [] { return QGuiApplication::mouseButtons() == Qt::NoButton; });

@@ -6,7 +6,7 @@
 #include "document/BookListDocument.h"
 #include "editor/BookEntryWindowController.h"
 #include "listwindow/BookListWindowController.h"
-#include "platform/widgets/WaitPanel.h"
+#include "platform/widgets/Waiting.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -17,10 +17,12 @@
 
 namespace tomely {
 
-Application::Application(UserDefaults& defaults, Alerts& alerts, FilePanels& panels)
+Application::Application(
+    UserDefaults& defaults, Alerts& alerts, FilePanels& panels, FetchPolicy fetchPolicy)
     : m_defaults(defaults)
     , m_alerts(alerts)
     , m_panels(panels)
+    , m_fetchPolicy(std::move(fetchPolicy))
     , m_documents({alerts, panels, defaults, collectionFileType(),
           [this] {
               return makeDocument();
@@ -64,7 +66,7 @@ void Application::comeForward()
     Document* const document = m_documents.currentDocument();
     if (document && document->mainWindow())
         document->mainWindow()->bringToFront();
-    else if (!WaitPanel::isWaiting()) // the first file is still being opened
+    else if (!Waiting::isWaiting()) // the first file is still being opened
         m_startWindow.present();
 }
 
@@ -128,7 +130,11 @@ ListWindowServices Application::listWindowServices()
 
 EditorServices Application::editorServices()
 {
-    return {m_defaults, m_panels, &m_spellChecker};
+    return {{m_defaults, m_alerts,
+                [this] {
+                    return std::make_unique<UrlFetch>(m_fetchPolicy);
+                }},
+        m_panels, &m_spellChecker};
 }
 
 } // namespace tomely

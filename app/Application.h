@@ -6,6 +6,7 @@
 #include "app/StartWindow.h"
 #include "app/TomelyDelegate.h"
 #include "editor/SpellChecker.h"
+#include "platform/network/UrlFetch.h"
 #include "platform/widgets/DocumentController.h"
 
 #include <QObject>
@@ -23,8 +24,9 @@ class Application : public QObject {
     Q_OBJECT
 
 public:
-    /// Everything must outlive the application.
-    Application(UserDefaults& defaults, Alerts& alerts, FilePanels& panels);
+    /// Everything must outlive the application. Look-ups keep to the fetch policy.
+    Application(
+        UserDefaults& defaults, Alerts& alerts, FilePanels& panels, FetchPolicy fetchPolicy = {});
 
     /// Shows the first windows: those files, or the default collection, or an untitled one. When no
     /// file can be opened the start window comes up.
@@ -49,6 +51,7 @@ private:
     UserDefaults& m_defaults;
     Alerts& m_alerts;
     FilePanels& m_panels;
+    FetchPolicy m_fetchPolicy;
     SpellChecker m_spellChecker; // for the notes of all editors
     DocumentController m_documents;
     TomelyDelegate m_delegate;

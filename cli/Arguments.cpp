@@ -41,11 +41,19 @@ private:
         const QString name = equals < 0 ? text : text.first(equals);
         if (equals < 0 && takeRequest(name))
             return;
-        if (!isKnown(name)) {
+        const Option* const option = findOption(name);
+        if (!option) {
             note(u"unknown option "_s + name);
-        } else if (m_arguments.values.contains(name)) {
+            return;
+        }
+        const bool takesValue = !option->valueName.isEmpty();
+        if (m_arguments.values.contains(name)) {
             note(name + " is given twice"_L1);
-            m_next += equals < 0 ? 1 : 0; // what follows is still its value
+            m_next += takesValue && equals < 0 ? 1 : 0; // what follows is still its value
+        } else if (!takesValue) {
+            m_arguments.values[name] = u""_s;
+            if (equals >= 0)
+                note(name + " takes no value"_L1);
         } else if (equals >= 0) {
             m_arguments.values[name] = text.sliced(equals + 1);
         } else if (m_next < m_texts.size()) {
@@ -65,11 +73,15 @@ private:
         return true;
     }
 
-    bool isKnown(const QString& name) const
+    /// nullptr when there is no such option.
+    const Option* findOption(const QString& name) const
     {
-        return std::ranges::any_of(m_known, [&name](const OptionGroup& group) {
-            return std::ranges::find(group.options, name, &Option::name) != group.options.end();
-        });
+        for (const OptionGroup& group : m_known) {
+            const auto place = std::ranges::find(group.options, name, &Option::name);
+            if (place != group.options.end())
+                return &*place;
+        }
+        return nullptr;
     }
 
     /// The first mistake is the one to tell, but a request for help further on still counts.

@@ -12,10 +12,10 @@
 
 namespace tomely {
 
-/// An option of a command. Every option takes a value.
+/// An option of a command.
 struct Option {
     QLatin1StringView name; // with its dashes: "--group"
-    QLatin1StringView valueName; // "KEY"
+    QLatin1StringView valueName; // "KEY"; empty when the option takes no value
     QLatin1StringView meaning; // for the help
 };
 
@@ -33,13 +33,15 @@ struct Arguments {
     QStringList operands;
     std::map<QString, QString> values; // by the option's name with its dashes
 
-    /// Nothing when the option was not given; an empty text when its value is empty.
+    /// Nothing when the option was not given; an empty text when its value is empty, or when it
+    /// takes none.
     std::optional<QString> value(QLatin1StringView option) const;
 };
 
 /// Both "--option value" and "--option=value" give a value, which may begin with a dash; "--" ends
 /// the options. A request for help or the version counts whatever else is wrong, and the first of
-/// them wins. Throws UsageError for an option that is unknown, repeated or without its value.
+/// them wins. Throws UsageError for an option that is unknown, repeated, without its value or with
+/// one that it does not take.
 Arguments parseArguments(const QStringList& texts, std::span<const OptionGroup> known);
 
 } // namespace tomely

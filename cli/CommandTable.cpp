@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/LookOptions.h"
+#include "cli/LookupCommand.h"
 #include "cli/ViewOptions.h"
 
 #include <algorithm>
@@ -36,6 +37,12 @@ std::vector<Command> makeCommands()
             "damaged file it tells the first thing that is wrong, and where, and the exit status\n"
             "is 1.\n"_L1,
             1, 1, {}, runCheck},
+        {"lookup"_L1, "ISBN [--json]"_L1, "asks web services for a book"_L1,
+            "Prints a line each for the book's title, author, ISBN, publisher, pages, date\n"
+            "of publication and the address of its cover. The ISBN may be written with\n"
+            "hyphens. The preferences of the window count here, too. When no service knows\n"
+            "the book, the exit status is 1.\n"_L1,
+            1, 1, {lookupOptions()}, runLookup},
         {"help"_L1, "[COMMAND]"_L1, "explains a command"_L1, ""_L1, 0, 1, {}, runHelp},
     };
 }

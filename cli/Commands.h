@@ -35,6 +35,7 @@ void runList(const Arguments& arguments, Output& output);
 void runDump(const Arguments& arguments, Output& output);
 void runRewrite(const Arguments& arguments, Output& output);
 void runCheck(const Arguments& arguments, Output& output);
+void runLookup(const Arguments& arguments, Output& output);
 void runHelp(const Arguments& arguments, Output& output);
 
 /// "usage: tomely-cli ..." for one command, or for the program when there is none.

@@ -21,8 +21,8 @@ void fillStandardStreams()
 
 } // namespace
 
-// There is no application object: no command needs an event loop or a locale, and making one warns
-// on standard error in the C locale.
+// There is no application object: no command but "lookup", which makes its own, needs an event loop
+// or a locale, and making one may warn on standard error in the C locale.
 int main(int argumentCount, char** arguments)
 {
     fillStandardStreams();

@@ -1,15 +1,20 @@
 #include "editor/BookEntryWindowController.h"
 
 #include "document/BookListDocument.h"
+#include "editor/BookLookupController.h"
 #include "editor/CustomLabels.h"
+#include "editor/EditingEnd.h"
 #include "editor/EditorMenus.h"
 #include "editor/EntryForm.h"
 #include "editor/ImageWells.h"
+#include "editor/LookupWorkflow.h"
 #include "editor/ui_BookEntryWindow.h"
 #include "model/TextTrimming.h"
 #include "platform/PreferenceKeys.h"
 #include "platform/UserDefaults.h"
+#include "platform/widgets/Waiting.h"
 
+#include <QDialog>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -79,6 +84,7 @@ void BookEntryWindowController::init_common()
     m_form = std::make_unique<EntryForm>(*window(), QLocale());
     m_labels = std::make_unique<CustomLabels>(*window(), m_document);
     m_wells = std::make_unique<ImageWells>(*window(), m_services.panels);
+    m_lookup = std::make_unique<LookupWorkflow>(*window(), *m_ui, *m_wells, m_services.lookup);
     setSaveEnabled(false);
     // Whatever text changes, the title is looked at.
     const auto texts = window()->findChildren<QLineEdit*>();
@@ -97,9 +103,12 @@ void BookEntryWindowController::windowDidLoad()
     const int nameWidth = window()->fontMetrics().averageCharWidth() * visibleLetters;
     m_ui->m_idPricePaidFrom->setMinimumWidth(nameWidth);
     m_ui->m_idLocation->setMinimumWidth(nameWidth);
-    m_ui->m_idProgressIndicator->hide();
-    m_ui->m_idLookupButton->hide();
+    m_ui->m_idLookupProgress->hide();
     m_ui->m_idGroupButton->hide();
+    connect(new EditingEnd(*m_ui->m_idISBN), &EditingEnd::editingEnded, this,
+        &BookEntryWindowController::isbnChanged);
+    connect(m_ui->m_idLookupButton, &QPushButton::clicked, this,
+        &BookEntryWindowController::lookupBook);
     connect(m_ui->m_idSaveButton, &QPushButton::clicked, this,
         [this] { saveEntry(m_ui->m_idSaveButton); });
     connect(
@@ -118,7 +127,7 @@ void BookEntryWindowController::windowDidLoad()
     }
     addEditorMenus(*window()->menuBar(),
         {[this] { saveEntry(m_ui->m_idSaveButton); }, [this] { addMore(); },
-            [this] { cancelEntry(); },
+            [this] { lookupBook(); }, [this] { cancelEntry(); },
             [this] {
                 return m_ui->m_idSaveButton->isEnabled();
             }});
@@ -185,12 +194,11 @@ QSize BookEntryWindowController::preferredSize() const
 
 void BookEntryWindowController::selectFirstTab(bool isNew)
 {
-    const UserDefaults& defaults = m_services.defaults;
-    const bool opensCustomTab = defaults.boolForKey(PreferenceKeys::OpenCustomTab);
+    const bool opensCustomTab = defaults().boolForKey(PreferenceKeys::OpenCustomTab);
     m_ui->m_idTab->setCurrentIndex(opensCustomTab ? customTab : standardTab);
     if (opensCustomTab)
         m_ui->m_idCustomField1->setFocus();
-    else if (isNew && defaults.boolForKey(PreferenceKeys::SetFocusToISBNField))
+    else if (isNew && defaults().boolForKey(PreferenceKeys::SetFocusToISBNField))
         m_ui->m_idISBN->setFocus();
     else
         m_ui->m_idTitle->setFocus();
@@ -216,6 +224,7 @@ void BookEntryWindowController::fill(const BookEntry& entry)
     m_dSelectedGroups = entry.getSelectedGroups();
     m_form->fill(entry);
     m_wells->fill(entry);
+    m_lookup->rememberISBN();
     setSaveEnabled(true);
     changedBookType();
     updateTitle();
@@ -224,9 +233,8 @@ void BookEntryWindowController::fill(const BookEntry& entry)
 void BookEntryWindowController::presetUserDefaults()
 {
     const QDate today = m_services.today();
-    const UserDefaults& defaults = m_services.defaults;
     const auto preset = [&](QLatin1StringView key, PopUpButton& month, QLineEdit& year) {
-        if (!defaults.boolForKey(key))
+        if (!defaults().boolForKey(key))
             return;
         month.selectTag(today.month());
         year.setText(QString::number(today.year()));
@@ -237,7 +245,7 @@ void BookEntryWindowController::presetUserDefaults()
         *m_ui->m_idYearLastRead);
     preset(PreferenceKeys::SetPurchasedToCurrentDate, *m_ui->m_idMonthPurchased,
         *m_ui->m_idYearPurchased);
-    if (defaults.boolForKey(PreferenceKeys::SetReadFlag))
+    if (defaults().boolForKey(PreferenceKeys::SetReadFlag))
         m_ui->m_idRead->setChecked(true);
 }
 
@@ -306,6 +314,23 @@ QString BookEntryWindowController::getISBN() const
     return m_ui->m_idISBN->text();
 }
 
+// Looking up
+
+void BookEntryWindowController::isbnChanged()
+{
+    // A question or the sheet of the look-up comes first, and a window that goes starts nothing.
+    const auto sheets = window()->findChildren<QDialog*>();
+    if (!m_isClosed && !Waiting::isWaiting() && std::ranges::none_of(sheets, &QWidget::isVisible))
+        m_lookup->isbnChanged();
+}
+
+void BookEntryWindowController::lookupBook()
+{
+    if (m_isClosed || m_bookLookupController)
+        return;
+    m_bookLookupController = new BookLookupController(*window(), *m_lookup, getISBN());
+}
+
 void BookEntryWindowController::updateColumnName()
 {
     m_labels->initCustomLabels();
@@ -331,7 +356,7 @@ bool BookEntryWindowController::saveEntry(const QObject* sender)
     }
     m_form->write(*book);
     book->setSelectedGroups(m_dSelectedGroups);
-    m_wells->write(*book, m_services.defaults);
+    m_wells->write(*book, defaults());
     // A collection that has given away all its numbers takes no book; the editor keeps it then.
     if (added && !m_document.addBook(std::move(added)))
         return false;

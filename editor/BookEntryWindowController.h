@@ -5,6 +5,7 @@
 #pragma once
 
 #include "document/BookEditorWindow.h"
+#include "editor/LookupServices.h"
 #include "model/GroupMembership.h"
 #include "platform/widgets/WindowController.h"
 
@@ -22,17 +23,18 @@ namespace tomely {
 
 class BookEntry;
 class BookListDocument;
+class BookLookupController;
 class CompletingComboBox;
 class CustomLabels;
 class EntryForm;
 class FilePanels;
 class ImageWells;
+class LookupWorkflow;
 class SpellChecker;
-class UserDefaults;
 
 /// What an editor needs from the program; everything must outlive it.
 struct EditorServices {
-    UserDefaults& defaults;
+    LookupServices lookup;
     FilePanels& panels;
     SpellChecker* spellChecker = nullptr; // may be missing
     std::function<QDate()> today = &QDate::currentDate; // in the person's calendar and time zone
@@ -57,6 +59,12 @@ public:
 
     /// The ISBN as it was typed.
     QString getISBN() const;
+
+    /// The person has finished with the ISBN: looks it up when it is another one than before.
+    void isbnChanged();
+
+    /// Asks for an ISBN to look up, in a sheet.
+    void lookupBook();
 
     /// Writes the book into the document, adds it when it is not there, and closes the window,
     /// unless the sender is the controller itself. Nothing happens, and the answer is false, while
@@ -110,6 +118,9 @@ private:
     void windowDidBecomeKey();
     void reloadCombos();
     void setComboSizes();
+
+    UserDefaults& defaults() const { return m_services.lookup.defaults; }
+
     QList<std::pair<CompletingComboBox*, QStringList>> combos() const;
     void setSaveEnabled(bool enabled);
 
@@ -119,6 +130,8 @@ private:
     std::unique_ptr<EntryForm> m_form;
     std::unique_ptr<CustomLabels> m_labels;
     std::unique_ptr<ImageWells> m_wells;
+    std::unique_ptr<LookupWorkflow> m_lookup;
+    QPointer<BookLookupController> m_bookLookupController; // owned by the window
     QString m_strBookKey; // null for a new book
     GroupMembership m_dSelectedGroups; // the editor's own copy
     bool m_isPlaced = false;

@@ -46,6 +46,9 @@ void addEditorMenus(QMenuBar& menuBar, const EditorCommands& commands)
                 QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Enter)},
             commands.saveAndAddMore);
     menu.addSeparator();
+    addItem(menu, "lookUpBook"_L1, "edit-find"_L1, tr("&Look Up…"),
+        {QKeySequence(Qt::CTRL | Qt::Key_L)}, commands.lookUp);
+    menu.addSeparator();
     addItem(menu, "closeEditor"_L1, "window-close"_L1, tr("&Close"),
         {QKeySequence(Qt::CTRL | Qt::Key_W)}, commands.close);
     QObject::connect(&menu, &QMenu::aboutToShow, save, [save, addMore, canSave = commands.canSave] {

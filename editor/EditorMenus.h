@@ -12,6 +12,7 @@ namespace tomely {
 struct EditorCommands {
     std::function<void()> save;
     std::function<void()> saveAndAddMore;
+    std::function<void()> lookUp;
     std::function<void()> close;
     std::function<bool()> canSave; // asked when the menu opens
 };

@@ -33,5 +33,23 @@ inline constexpr QLatin1StringView RecentDocuments{"RecentDocuments"};
 inline constexpr QLatin1StringView ScaleImages{"ScaleImages"};
 /// Integer: quality of stored pictures in tenths, 1 to 10; absent and 0 are 7.
 inline constexpr QLatin1StringView ImageQuality{"ImageQuality"};
+/// Boolean: whether leaving the ISBN of an editor starts no look-up.
+inline constexpr QLatin1StringView DisableAutoLookup{"DisableAutoLookup"};
+/// Boolean: whether a look-up takes the first of several authors only.
+inline constexpr QLatin1StringView DisableAuthorConcatenation{"DisableAuthorConcatenation"};
+/// Boolean: whether a look-up brings no cover.
+inline constexpr QLatin1StringView DisableImageDownload{"DisableImageDownload"};
+
+// The section [Lookup] of the preferences file: whom look-ups ask. A host is a name, with ":" and a
+// port where it is not the usual one of https.
+
+/// Text: host that knows the identifier of a volume; absent or empty is books.google.com.
+inline constexpr QLatin1StringView LookupViewHost{"Lookup/ViewHost"};
+/// Text: host that has the records of volumes; absent or empty is www.googleapis.com.
+inline constexpr QLatin1StringView LookupVolumesHost{"Lookup/VolumesHost"};
+/// Text: host with a page for each book; absent or empty, there is no second source.
+inline constexpr QLatin1StringView LookupPageHost{"Lookup/PageHost"};
+/// Text: key for the records of volumes, when they are refused without one; may be absent.
+inline constexpr QLatin1StringView LookupServiceKey{"Lookup/ServiceKey"};
 
 } // namespace tomely::PreferenceKeys

@@ -4,6 +4,7 @@
 #include "platform/Document.h"
 #include "platform/PreferenceKeys.h"
 #include "platform/UserDefaults.h"
+#include "platform/widgets/Waiting.h"
 #include "platform/widgets/WaitPanel.h"
 #include "platform/widgets/WindowController.h"
 
@@ -120,7 +121,7 @@ QString DocumentController::nextUntitledName()
 
 Document* DocumentController::openDocument(const QString& path)
 {
-    if (WaitPanel::isWaiting()) {
+    if (Waiting::isWaiting()) {
         QTimer::singleShot(retryMilliseconds, this, [this, path] { openDocument(path); });
         return nullptr;
     }
@@ -220,7 +221,7 @@ bool DocumentController::write(Document& document, const QString& path)
 
 void DocumentController::save(Document& document, Done done)
 {
-    if (WaitPanel::isWaiting())
+    if (Waiting::isWaiting())
         return answer(done, false);
     if (document.filePath().isEmpty())
         return saveAs(document, std::move(done));
@@ -246,7 +247,7 @@ void DocumentController::askToReplace(Document& document, Done done)
 
 void DocumentController::saveAs(Document& document, Done done)
 {
-    if (WaitPanel::isWaiting())
+    if (Waiting::isWaiting())
         return answer(done, false);
     const QString suggested = document.filePath().isEmpty()
         ? QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
@@ -271,7 +272,7 @@ void DocumentController::saveAs(Document& document, Done done)
 
 void DocumentController::revert(Document& document, const Done& done)
 {
-    if (WaitPanel::isWaiting() || document.filePath().isEmpty())
+    if (Waiting::isWaiting() || document.filePath().isEmpty())
         return answer(done, false);
     endEditing(document);
     settleWindows(document, [this, target = QPointer(&document), done](bool settled) {
@@ -315,7 +316,7 @@ void DocumentController::reopen(Document& document, const Done& done)
 
 void DocumentController::close(Document& document, const Done& done)
 {
-    if (WaitPanel::isWaiting())
+    if (Waiting::isWaiting())
         return answer(done, false);
     endEditing(document);
     settleWindows(document, [this, target = QPointer(&document), done](bool settled) {

@@ -48,14 +48,12 @@ WaitPanel::WaitPanel(QWidget* parent, const QString& text, Cancel cancel)
     , m_text(text)
     , m_cancel(cancel)
 {
-    ++s_waiting;
     m_sinceStart.start();
     m_sinceReport.start();
 }
 
 WaitPanel::~WaitPanel()
 {
-    --s_waiting;
     delete m_dialog;
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/Progress.h"
+#include "platform/widgets/Waiting.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -30,21 +31,16 @@ public:
     /// The same as a function to hand on; it must not outlive the panel.
     Progress progress();
 
-    /// True while any panel is waiting. What would open, close or change a document has to wait
-    /// too.
-    static bool isWaiting() { return s_waiting > 0; }
-
 private:
     void show();
 
+    Waiting m_waiting;
     QPointer<QWidget> m_parent;
     QString m_text;
     Cancel m_cancel;
     QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceReport;
     QPointer<QProgressDialog> m_dialog; // owned; also destroyed with its parent
-
-    static inline int s_waiting = 0;
 };
 
 } // namespace tomely

@@ -2,6 +2,7 @@
 
 #include "listwindow/BookTableModel.h"
 #include "listwindow/GroupTableModel.h"
+#include "platform/PreferenceKeys.h"
 #include "tests/support/SmallCollection.h"
 
 #include <QAction>
@@ -219,6 +220,12 @@ void EditorWindow::click(const QString& name) const
 }
 
 // The program
+
+ProgramOnScreen::ProgramOnScreen(const std::optional<FetchPolicy>& fetchPolicy)
+    : application(defaults, alerts, panels, fetchPolicy.value_or(FetchPolicy()))
+{
+    defaults.setBool(PreferenceKeys::DisableAutoLookup, !fetchPolicy);
+}
 
 ProgramOnScreen::~ProgramOnScreen()
 {

@@ -14,6 +14,8 @@
 
 #include <QTemporaryDir>
 
+#include <optional>
+
 class QAction;
 class QHeaderView;
 class QLineEdit;
@@ -104,7 +106,8 @@ private:
 
 class ProgramOnScreen {
 public:
-    ProgramOnScreen() = default;
+    /// Asks nobody when an ISBN is typed, unless it is told how.
+    explicit ProgramOnScreen(const std::optional<FetchPolicy>& fetchPolicy = {});
     ~ProgramOnScreen();
     Q_DISABLE_COPY_MOVE(ProgramOnScreen)
 
@@ -159,7 +162,7 @@ public:
     UserDefaults defaults{m_folder.filePath(QStringLiteral("Tomely.ini"))};
     MessageBoxAlerts alerts;
     FakeFilePanels panels;
-    Application application{defaults, alerts, panels};
+    Application application;
 };
 
 } // namespace tomely

@@ -11,7 +11,10 @@ using namespace tomely;
 namespace {
 
 constexpr std::array first = std::to_array<Option>({{"--filter"_L1, "FIELD"_L1, ""_L1}});
-constexpr std::array second = std::to_array<Option>({{"--text"_L1, "TEXT"_L1, ""_L1}});
+constexpr std::array second = std::to_array<Option>({
+    {"--text"_L1, "TEXT"_L1, ""_L1},
+    {"--json"_L1, ""_L1, ""_L1},
+});
 
 Arguments parse(const QStringList& texts)
 {
@@ -39,6 +42,7 @@ private Q_SLOTS:
     void takesValuesInBothForms();
     void takesValuesThatBeginWithADash();
     void tellsEmptyFromMissing();
+    void takesOptionsWithoutAValue();
     void endsOptions();
     void keepsOperandsInOrder();
     void refuses_data();
@@ -74,6 +78,14 @@ void ArgumentsTest::tellsEmptyFromMissing()
     QCOMPARE(parse({u"--text"_s, u""_s}).value("--text"_L1), u""_s);
 }
 
+void ArgumentsTest::takesOptionsWithoutAValue()
+{
+    const Arguments arguments = parse({u"--json"_s, u"a"_s});
+    QCOMPARE(arguments.value("--json"_L1), u""_s);
+    QCOMPARE(arguments.operands, QStringList{u"a"_s});
+    QVERIFY(!parse({u"a"_s}).value("--json"_L1));
+}
+
 void ArgumentsTest::endsOptions()
 {
     const Arguments arguments = parse({u"--"_s, u"--text"_s, u"--help"_s, u"--"_s});
@@ -101,6 +113,11 @@ void ArgumentsTest::refuses_data()
     QTest::newRow("help with a value") << QStringList{u"--help=x"_s} << u"unknown option --help"_s;
     const QStringList twice{u"--text"_s, u"x"_s, u"--text=x"_s};
     QTest::newRow("twice") << twice << u"--text is given twice"_s;
+    const QStringList twiceWithoutValue{u"--json"_s, u"--json"_s, u"--bogus"_s};
+    QTest::newRow("twice, no value") << twiceWithoutValue << u"--json is given twice"_s;
+    QTest::newRow("a value for none") << QStringList{u"--json=1"_s} << u"--json takes no value"_s;
+    QTest::newRow("an empty value for none")
+        << QStringList{u"--json="_s} << u"--json takes no value"_s;
     const QStringList several{u"--text=x"_s, u"--text"_s, u"y"_s, u"--bogus"_s};
     QTest::newRow("the first mistake") << several << u"--text is given twice"_s;
 }

@@ -79,8 +79,8 @@ void UsageTest::printsHelp()
 void UsageTest::explainsEveryCommand()
 {
     const QByteArray all = runProgram({u"help"_s}).output;
-    for (const QString& command :
-        {u"new"_s, u"info"_s, u"list"_s, u"dump"_s, u"rewrite"_s, u"check"_s, u"help"_s}) {
+    for (const QString& command : {u"new"_s, u"info"_s, u"list"_s, u"dump"_s, u"rewrite"_s,
+             u"check"_s, u"lookup"_s, u"help"_s}) {
         QVERIFY2(all.contains("\n  " + command.toUtf8() + ' '), qPrintable(command));
         const ProgramResult result = runProgram({u"help"_s, command});
         QCOMPARE(result.status, 0);
@@ -97,8 +97,7 @@ void UsageTest::explainsEveryCommand()
 void UsageTest::namesOnlyWhatThereIs()
 {
     const QByteArray all = runProgram({u"help"_s}).output;
-    for (const QString& command :
-        {u"export-xml"_s, u"export-csv"_s, u"import-xml"_s, u"lookup"_s}) {
+    for (const QString& command : {u"export-xml"_s, u"export-csv"_s, u"import-xml"_s}) {
         QVERIFY(!all.contains(command.toUtf8()));
         QCOMPARE(runProgram({command, path(u"s.books"_s)}).status, 2);
     }

@@ -4,7 +4,9 @@
 
 #include "document/BookListDocument.h"
 #include "editor/BookEntryWindowController.h"
+#include "platform/network/UrlFetch.h"
 #include "platform/UserDefaults.h"
+#include "tests/support/FakeAlerts.h"
 #include "tests/support/FakeBookListWindow.h"
 #include "tests/support/FakeFilePanels.h"
 #include "tests/support/SmallCollection.h"
@@ -49,9 +51,11 @@ public:
 private:
     EditorServices services()
     {
-        return {defaults, panels, nullptr, [this] {
-                    return today;
-                }};
+        return {{defaults, alerts, [this] { return std::make_unique<UrlFetch>(fetchPolicy); },
+                    placeholderDigest},
+            panels, nullptr, [this] {
+                return today;
+            }};
     }
 
     BookEntryWindowController& show(std::unique_ptr<BookEntryWindowController> editor)
@@ -62,11 +66,23 @@ private:
         return shown;
     }
 
+    static FetchPolicy nobodyToAsk()
+    {
+        FetchPolicy policy;
+        policy.mayConnect = [](const QHostAddress&) {
+            return false;
+        };
+        return policy;
+    }
+
     QTemporaryDir m_folder;
 
 public:
     UserDefaults defaults{m_folder.filePath(QStringLiteral("Tomely.ini"))};
+    FakeAlerts alerts;
     FakeFilePanels panels;
+    FetchPolicy fetchPolicy = nobodyToAsk();
+    QString placeholderDigest = PlaceholderDigest.toString();
     QDate today{2026, 5, 17};
     FakeBookListWindow* list = nullptr; // owned by the document
     BookListDocument document{FakeBookListWindow::services(list)};

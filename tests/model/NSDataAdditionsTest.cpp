@@ -6,6 +6,20 @@
 using namespace Qt::StringLiterals;
 using namespace tomely;
 
+namespace {
+
+// What stands for 0 to 63.
+const QString symbols = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/"_s;
+
+/// The bytes of the numbers 0 to 63, six bits each.
+QByteArray numberBytes()
+{
+    return QByteArray::fromHex("00108310518720928b30d38f41149351559761969b71d79f8218a39259a7a29aab"
+                               "b2dbafc31cb3d35db7e39ebbf3dfbf");
+}
+
+} // namespace
+
 class NSDataAdditionsTest : public QObject {
     Q_OBJECT
 
@@ -35,6 +49,7 @@ void NSDataAdditionsTest::readsTexts_data()
     QTest::newRow("two bytes without a sign") << u"TWE"_s << QByteArray();
     QTest::newRow("rest without a sign") << u"TWFuTQ"_s << QByteArray("Man");
     QTest::newRow("more after the sign") << u"TWFu=TWFu"_s << QByteArray("Man");
+    QTest::newRow("every symbol") << symbols << numberBytes();
     QTest::newRow("every kind of symbol")
         << u"+/09azAZ"_s << QByteArray("\xFB\xFD\x3D\x6B\x30\x19");
     QTest::newRow("beyond ASCII") << u"TWFué"_s << QByteArray();
@@ -57,6 +72,8 @@ void NSDataAdditionsTest::writesBytes_data()
     QTest::newRow("two") << QByteArray("Ma") << u"TWE="_s;
     QTest::newRow("three") << QByteArray("Man") << u"TWFu"_s;
     QTest::newRow("zeros") << QByteArray(4, '\0') << u"AAAAAA=="_s;
+    QTest::newRow("every symbol") << numberBytes() << symbols;
+    QTest::newRow("six") << QByteArray("foobar") << u"Zm9vYmFy"_s;
     QTest::newRow("the last symbols") << QByteArray("\xFB\xFF") << u"+/8="_s;
 }
 
@@ -88,6 +105,7 @@ void NSDataAdditionsTest::breaksLines()
     QFETCH(const quint32, lineLength);
     QFETCH(const QList<int>, lines);
     const QString text = base64EncodingWithLineLength(QByteArray(bytes, 'x'), lineLength);
+    QCOMPARE(QString(text).remove(u'\n'), base64Encoding(QByteArray(bytes, 'x')));
     QList<int> lengths;
     for (const QString& line : text.split(u'\n'))
         lengths.append(static_cast<int>(line.size()));

@@ -20,6 +20,11 @@ void NormalizedISBNTest::keepsDigitsAndLetters_data()
     QTest::newRow("hyphens") << u"978-0-14-303943-3"_s << u"9780143039433"_s;
     QTest::newRow("spaces and a letter") << u"0 8044 2957 x"_s << u"080442957X"_s;
     QTest::newRow("as it should be") << u"080442957X"_s << u"080442957X"_s;
+    QString ascii;
+    for (char16_t unit = 0; unit < 0x80; ++unit)
+        ascii.append(QChar(unit));
+    QTest::newRow("all of ASCII")
+        << ascii << u"0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZABCDEFGHIJKLMNOPQRSTUVWXYZ"_s;
     QTest::newRow("nothing") << QString() << QString();
     QTest::newRow("hyphens alone") << u"--- -"_s << QString();
     QTest::newRow("other scripts") << u"é٣1ß２z"_s << u"1Z"_s;

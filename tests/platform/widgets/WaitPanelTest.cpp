@@ -187,17 +187,17 @@ void WaitPanelTest::cannotBeLeftWhereTheWorkCannot()
 
 void WaitPanelTest::knowsWhetherAnyIsWaiting()
 {
-    QVERIFY(!WaitPanel::isWaiting());
+    QVERIFY(!Waiting::isWaiting());
     {
         const WaitPanel outer(nullptr, u"Outer"_s, Cancel::Possible);
-        QVERIFY(WaitPanel::isWaiting());
+        QVERIFY(Waiting::isWaiting());
         {
             const WaitPanel inner(nullptr, u"Inner"_s, Cancel::Possible);
-            QVERIFY(WaitPanel::isWaiting());
+            QVERIFY(Waiting::isWaiting());
         }
-        QVERIFY(WaitPanel::isWaiting());
+        QVERIFY(Waiting::isWaiting());
     }
-    QVERIFY(!WaitPanel::isWaiting());
+    QVERIFY(!Waiting::isWaiting());
 }
 
 void WaitPanelTest::outlivesItsWindow_data()

@@ -1,0 +1,31 @@
+// The cover that a look-up names, fetched and read.
+
+#pragma once
+
+#include "model/Picture.h"
+
+#include <QByteArrayView>
+#include <QStringView>
+
+namespace tomely {
+
+class BookLookup;
+class UrlFetch;
+
+/// The SHA-1 digest, in base64, of the picture that the book service sends when it has no cover.
+inline constexpr QStringView PlaceholderDigest = u"u9ZOcwLqWZo3okLpBRliA8/WZag=";
+
+/// True for the picture of that digest, which is told apart from others without regard to case.
+/// Another digest than the service's is for tests, which have no such picture.
+bool isBlankImage(QByteArrayView data, QStringView placeholderDigest = PlaceholderDigest);
+
+struct LookupCover {
+    bool hasAddress = false; // whether the look-up names a cover at all
+    Picture picture; // not valid when it is not there, no picture, or the placeholder
+};
+
+/// Fetches the best cover there is, or the best but the large one, and waits for it.
+LookupCover getImage(const BookLookup& lookup, bool ignoreLarge, UrlFetch& fetch,
+    QStringView placeholderDigest = PlaceholderDigest);
+
+} // namespace tomely

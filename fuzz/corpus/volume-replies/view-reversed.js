@@ -1,0 +1,1 @@
+"\u0026" var _BookInfo = {"ISBN":{"info_url":"https://b.example/books?id=JmNrrVe5hJ0C\u0026source=gbs_ViewAPI"}};

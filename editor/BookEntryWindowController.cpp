@@ -85,6 +85,8 @@ void BookEntryWindowController::init_common()
     m_labels = std::make_unique<CustomLabels>(*window(), m_document);
     m_wells = std::make_unique<ImageWells>(*window(), m_services.panels);
     m_lookup = std::make_unique<LookupWorkflow>(*window(), *m_ui, *m_wells, m_services.lookup);
+    connect(m_lookup.get(), &LookupWorkflow::textsChanged, this,
+        &BookEntryWindowController::textDidChange);
     setSaveEnabled(false);
     // Whatever text changes, the title is looked at.
     const auto texts = window()->findChildren<QLineEdit*>();
@@ -103,6 +105,8 @@ void BookEntryWindowController::windowDidLoad()
     const int nameWidth = window()->fontMetrics().averageCharWidth() * visibleLetters;
     m_ui->m_idPricePaidFrom->setMinimumWidth(nameWidth);
     m_ui->m_idLocation->setMinimumWidth(nameWidth);
+    // Seen on either tab: a look-up may start while the person goes on to the other one.
+    m_ui->m_idTab->setCornerWidget(m_ui->m_idLookupProgress);
     m_ui->m_idLookupProgress->hide();
     m_ui->m_idGroupButton->hide();
     connect(new EditingEnd(*m_ui->m_idISBN), &EditingEnd::editingEnded, this,
@@ -139,7 +143,8 @@ bool BookEntryWindowController::eventFilter(QObject* watched, QEvent* event)
     // open list that it closes would take the window along.
     if (watched == window() && event->type() == QEvent::KeyPress
         && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        cancelEntry();
+        if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) // of a key that meant something else
+            cancelEntry();
         return true;
     }
     return WindowController::eventFilter(watched, event);
@@ -290,6 +295,9 @@ void BookEntryWindowController::windowDidBecomeKey()
         list->endGroupNameEditting();
     reloadCombos();
     updateTitle(); // the list may have renamed the book
+    if (window()->focusWidget() != m_ui->m_idISBN)
+        QMetaObject::invokeMethod(
+            this, &BookEntryWindowController::isbnChanged, Qt::QueuedConnection);
 }
 
 void BookEntryWindowController::textDidChange()
@@ -318,7 +326,8 @@ QString BookEntryWindowController::getISBN() const
 
 void BookEntryWindowController::isbnChanged()
 {
-    // A question or the sheet of the look-up comes first, and a window that goes starts nothing.
+    // A question or the sheet of the look-up comes first (the ISBN is looked at again when the
+    // window is the active one again), and a window that goes starts nothing.
     const auto sheets = window()->findChildren<QDialog*>();
     if (!m_isClosed && !Waiting::isWaiting() && std::ranges::none_of(sheets, &QWidget::isVisible))
         m_lookup->isbnChanged();
@@ -326,7 +335,7 @@ void BookEntryWindowController::isbnChanged()
 
 void BookEntryWindowController::lookupBook()
 {
-    if (m_isClosed || m_bookLookupController)
+    if (m_isClosed || m_bookLookupController || Waiting::isWaiting())
         return;
     m_bookLookupController = new BookLookupController(*window(), *m_lookup, getISBN());
 }
@@ -345,7 +354,7 @@ void BookEntryWindowController::endEditing()
 
 bool BookEntryWindowController::saveEntry(const QObject* sender)
 {
-    if (m_isClosed || !m_ui->m_idSaveButton->isEnabled())
+    if (m_isClosed || !m_ui->m_idSaveButton->isEnabled() || Waiting::isWaiting())
         return false;
     m_labels->endEditing();
     BookEntry* book = m_strBookKey.isNull() ? nullptr : m_document.getBookEntry(m_strBookKey);
@@ -378,7 +387,8 @@ void BookEntryWindowController::addMore()
 
 void BookEntryWindowController::cancelEntry()
 {
-    closeEditor();
+    if (!Waiting::isWaiting())
+        closeEditor();
 }
 
 void BookEntryWindowController::closeEditor()

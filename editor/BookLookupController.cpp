@@ -1,18 +1,12 @@
 #include "editor/BookLookupController.h"
 
-#include "editor/lookup/BookLookup.h"
-#include "editor/lookup/LookupSettings.h"
-#include "editor/LookupWait.h"
 #include "editor/LookupWorkflow.h"
 #include "editor/ui_BookLookup.h"
 #include "model/NormalizedISBN.h"
 #include "model/TextTrimming.h"
-#include "platform/Alerts.h"
-#include "platform/network/UrlFetch.h"
+#include "platform/widgets/Waiting.h"
 
 #include <QPointer>
-
-#include <optional>
 
 namespace tomely {
 
@@ -46,24 +40,11 @@ void BookLookupController::textDidChange()
 
 void BookLookupController::ok()
 {
+    if (Waiting::isWaiting())
+        return;
     const QPointer self(this);
-    const QPointer workflow(&m_workflow);
-    const LookupServices services = m_workflow.services();
-    const std::unique_ptr<UrlFetch> fetch = services.makeFetch();
-    std::optional<LookupWait> wait(std::in_place, *fetch, *m_ui->m_idLookupProgress);
-    const BookLookup lookup = BookLookup::initWithISBN(
-        normalizedISBN(m_ui->m_ISBNField->text()), LookupSettings::of(services.defaults), *fetch);
-    if (!self || !workflow || fetch->isGivenUp())
-        return;
-    if (!lookup.hasLoadError())
-        workflow->setLookupInfo(lookup, *fetch);
-    wait.reset();
-    if (!self)
-        return;
-    if (lookup.hasLoadError())
-        services.alerts.beginSheet(
-            this, messageAlert(tr("Book lookup did not find the requested book.")), {});
-    else
+    const QString isbn = normalizedISBN(m_ui->m_ISBNField->text());
+    if (m_workflow.lookUp(isbn, *m_ui->m_idLookupProgress, *this) && self)
         accept();
 }
 

@@ -31,11 +31,9 @@ EditingEnd::EditingEnd(QLineEdit& field) : QObject(&field), m_field(field)
 
 bool EditingEnd::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == &m_field && event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
-        if (!comesBack(reason))
-            end(reason == Qt::MouseFocusReason ? Way::Mouse : Way::Keyboard);
-    }
+    if (watched == &m_field && event->type() == QEvent::FocusOut
+        && !comesBack(static_cast<const QFocusEvent*>(event)->reason()))
+        end(Way::FocusOut);
     // What the hand is busy with ends with one of these, of whatever window.
     if (m_isPending
         && (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::Hide
@@ -59,7 +57,7 @@ void EditingEnd::tellLater()
 
 void EditingEnd::tell()
 {
-    if (!m_isPending || (m_way == Way::Mouse && isHandBusy()))
+    if (!m_isPending || (m_way == Way::FocusOut && isHandBusy()))
         return;
     m_isPending = false;
     QCoreApplication::instance()->removeEventFilter(this);

@@ -26,7 +26,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum class Way { Return, Keyboard, Mouse };
+    enum class Way { Return, FocusOut };
 
     void end(Way way);
     void tellLater();

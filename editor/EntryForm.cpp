@@ -44,10 +44,8 @@ void setTextOf(QWidget* control, const QString& text)
 {
     if (auto* const notes = qobject_cast<NotesView*>(control))
         return notes->setNotes(text);
-    if (QLineEdit* const line = lineOf(control)) {
-        line->setText(text);
-        line->setCursorPosition(0); // of a long text the beginning tells more
-    }
+    if (QLineEdit* const line = lineOf(control))
+        EntryForm::showText(*line, text);
 }
 
 void addTypeItems(PopUpButton& popUp)
@@ -122,6 +120,12 @@ void EntryForm::clear()
         row.filled = shown(row);
     }
     settle();
+}
+
+void EntryForm::showText(QLineEdit& line, const QString& text)
+{
+    line.setText(text);
+    line.setCursorPosition(0); // of a long text the beginning tells more
 }
 
 void EntryForm::fill(const BookEntry& book)

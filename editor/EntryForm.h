@@ -12,6 +12,7 @@
 #include <variant>
 #include <vector>
 
+class QLineEdit;
 class QWidget;
 
 namespace tomely {
@@ -30,6 +31,9 @@ public:
 
     /// Shows a book.
     void fill(const BookEntry& book);
+
+    /// Shows a text in a line so that its beginning is seen.
+    static void showText(QLineEdit& line, const QString& text);
 
     /// Takes what is shown now as unchanged.
     void settle();

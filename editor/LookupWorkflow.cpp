@@ -1,6 +1,7 @@
 #include "editor/LookupWorkflow.h"
 
 #include "editor/DraggableImageView.h"
+#include "editor/EntryForm.h"
 #include "editor/ImageWells.h"
 #include "editor/lookup/BookLookup.h"
 #include "editor/lookup/LookupCover.h"
@@ -26,11 +27,11 @@ constexpr int coverSlot = 1;
 constexpr qint32 lastMonth = 12;
 
 /// The best cover that can be had; not valid when there is none.
-LookupCover bestCover(const BookLookup& lookup, UrlFetch& fetch, QStringView placeholderDigest)
+Picture bestCover(const BookLookup& lookup, UrlFetch& fetch, QStringView placeholderDigest)
 {
-    LookupCover cover = getImage(lookup, false, fetch, placeholderDigest);
+    Picture cover = getImage(lookup, false, fetch, placeholderDigest);
     // Without a large cover the next best one has been tried already.
-    if (!cover.picture.isValid() && lookup.getBestImageURL(true) != lookup.getBestImageURL(false))
+    if (!cover.isValid() && lookup.getBestImageURL(true) != lookup.getBestImageURL(false))
         cover = getImage(lookup, true, fetch, placeholderDigest);
     return cover;
 }
@@ -64,37 +65,49 @@ void LookupWorkflow::isbnChanged()
 
 void LookupWorkflow::liveISBNLookup(const QString& isbn)
 {
+    lookUp(isbn, *m_controls.m_idLookupProgress, m_window);
+}
+
+bool LookupWorkflow::lookUp(const QString& isbn, QWidget& indicator, QWidget& window)
+{
     const QPointer self(this);
     const std::unique_ptr<UrlFetch> fetch = m_services.makeFetch();
-    std::optional<LookupWait> wait(std::in_place, *fetch, *m_controls.m_idLookupProgress);
+    // Nobody waits for what is gone.
+    connect(&window, &QObject::destroyed, fetch.get(), &UrlFetch::giveUp);
+    connect(this, &QObject::destroyed, fetch.get(), &UrlFetch::giveUp);
+    std::optional<LookupWait> wait(std::in_place, *fetch, indicator);
     const BookLookup lookup =
         BookLookup::initWithISBN(isbn, LookupSettings::of(m_services.defaults), *fetch);
     if (!self || fetch->isGivenUp())
-        return;
-    if (!lookup.hasLoadError())
-        return setLookupInfo(lookup, *fetch);
+        return false;
+    if (!lookup.hasLoadError()) {
+        setLookupInfo(lookup, *fetch);
+        return true;
+    }
     wait.reset();
     m_services.alerts.beginSheet(
-        &m_window, messageAlert(tr("Book lookup did not find the requested book.")), {});
+        &window, messageAlert(tr("Book lookup did not find the requested book.")), {});
+    return false;
 }
 
+/// The person may give up the cover: its well keeps its picture then.
 void LookupWorkflow::setLookupInfo(const BookLookup& lookup, UrlFetch& fetch)
 {
     showTexts(lookup);
     rememberISBN();
+    Q_EMIT textsChanged();
     if (!m_services.defaults.boolForKey(PreferenceKeys::DisableImageDownload))
         showCover(lookup, fetch);
-    // Save and Add More have followed the title as it changed.
 }
 
 void LookupWorkflow::showTexts(const BookLookup& lookup)
 {
-    m_controls.m_idTitle->setText(lookup.getTitle());
-    m_controls.m_idAuthor->setEditText(lookup.getAuthor());
-    m_controls.m_idISBN->setText(lookup.getISBN());
-    m_controls.m_idPublisher->setEditText(lookup.getPublisher());
-    m_controls.m_idPages->setText(lookup.getNumberOfPages());
-    m_controls.m_idYearPublished->setText(lookup.getPublicationYear());
+    EntryForm::showText(*m_controls.m_idTitle, lookup.getTitle());
+    EntryForm::showText(*m_controls.m_idAuthor->lineEdit(), lookup.getAuthor());
+    EntryForm::showText(*m_controls.m_idISBN, lookup.getISBN());
+    EntryForm::showText(*m_controls.m_idPublisher->lineEdit(), lookup.getPublisher());
+    EntryForm::showText(*m_controls.m_idPages, lookup.getNumberOfPages());
+    EntryForm::showText(*m_controls.m_idYearPublished, lookup.getPublicationYear());
     const qint32 month = lookup.getPublicationMonth();
     m_controls.m_idMonthPublished->selectTag(month >= 0 && month <= lastMonth ? month : 0);
 }
@@ -102,11 +115,11 @@ void LookupWorkflow::showTexts(const BookLookup& lookup)
 void LookupWorkflow::showCover(const BookLookup& lookup, UrlFetch& fetch)
 {
     const QPointer self(this);
-    const LookupCover cover = bestCover(lookup, fetch, m_services.placeholderDigest);
+    const Picture cover = bestCover(lookup, fetch, m_services.placeholderDigest);
     if (!self)
         return;
-    if (cover.picture.isValid()) {
-        m_wells.well(coverSlot).setPicture(cover.picture);
+    if (cover.isValid()) {
+        m_wells.well(coverSlot).setPicture(cover);
         m_wells.imageChanged(coverSlot);
     } else if (!fetch.isGivenUp()) {
         // The look-up replaces the cover, also by none. Who gave up has not seen that there is

@@ -22,11 +22,9 @@ class LookupWorkflow : public QObject {
     Q_OBJECT
 
 public:
-    /// The window with those controls and wells; both must outlive this.
+    /// The window with those controls and wells; all must outlive this.
     LookupWorkflow(QWidget& window, const Ui::BookEntryWindow& controls, ImageWells& wells,
         LookupServices services);
-
-    const LookupServices& services() const { return m_services; }
 
     /// Takes the ISBN that is shown as one that needs no look-up.
     void rememberISBN();
@@ -36,13 +34,18 @@ public:
     /// has ended; this may be gone then.
     void isbnChanged();
 
-    /// Shows what a look-up found: texts that it does not know become empty, and the cover is
-    /// fetched. The caller waits with the person, who may give up `fetch`: the well keeps its
-    /// picture then. This may be gone afterwards.
-    void setLookupInfo(const BookLookup& lookup, UrlFetch& fetch);
+    /// Looks a book up while `indicator` turns, and shows it in the editor; true when it was found.
+    /// When it was not, a sheet on `window` says so, unless the person gave up. Anything may be
+    /// gone afterwards, also this.
+    bool lookUp(const QString& isbn, QWidget& indicator, QWidget& window);
+
+Q_SIGNALS:
+    /// A look-up has changed the texts, the title among them.
+    void textsChanged();
 
 private:
     void liveISBNLookup(const QString& isbn);
+    void setLookupInfo(const BookLookup& lookup, UrlFetch& fetch);
     void showTexts(const BookLookup& lookup);
     void showCover(const BookLookup& lookup, UrlFetch& fetch);
 

@@ -15,13 +15,18 @@ namespace tomely {
 
 namespace {
 
+// Many times what the sources send; it is read while the person waits.
+constexpr qint64 mostReplyBytes = 1'000'000;
+constexpr qint64 mostPageBytes = 4'000'000;
+
 /// The service answers without a key until it was asked too often.
 std::optional<QByteArray> fetchVolume(
     const QString& identifier, const LookupSettings& settings, UrlFetch& fetch)
 {
-    auto record = fetch.fetch(volumeAddress(settings.volumesHost, identifier, {}));
+    auto record = fetch.fetch(volumeAddress(settings.volumesHost, identifier, {}), mostReplyBytes);
     if (!record && !settings.serviceKey.isEmpty())
-        record = fetch.fetch(volumeAddress(settings.volumesHost, identifier, settings.serviceKey));
+        record = fetch.fetch(
+            volumeAddress(settings.volumesHost, identifier, settings.serviceKey), mostReplyBytes);
     return record;
 }
 
@@ -47,7 +52,7 @@ void BookLookup::initWithISBN_Google(
     const QString& isbn, const LookupSettings& settings, UrlFetch& fetch)
 {
     logLookup(u"Lookup 1"_s);
-    const auto scriptBytes = fetch.fetch(viewAddress(settings.viewHost, isbn));
+    const auto scriptBytes = fetch.fetch(viewAddress(settings.viewHost, isbn), mostReplyBytes);
     if (!scriptBytes)
         return;
     logLookup(u"Lookup 1: Part 1 of 5"_s);
@@ -69,7 +74,7 @@ void BookLookup::initWithISBN_Direct(
     const QString& isbn, const LookupSettings& settings, UrlFetch& fetch)
 {
     logLookup(u"Lookup 2"_s);
-    const auto bytes = fetch.fetch(bookPageAddress(settings.pageHost, isbn));
+    const auto bytes = fetch.fetch(bookPageAddress(settings.pageHost, isbn), mostPageBytes);
     const auto page = bytes ? decodedText(*bytes) : std::nullopt;
     if (page)
         fillFromBookPage(*page, isbn, m_details);

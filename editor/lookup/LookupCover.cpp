@@ -17,7 +17,7 @@ bool isBlankImage(QByteArrayView data, QStringView placeholderDigest)
     return placeholderDigest.compare(digest, Qt::CaseInsensitive) == 0;
 }
 
-LookupCover getImage(
+Picture getImage(
     const BookLookup& lookup, bool ignoreLarge, UrlFetch& fetch, QStringView placeholderDigest)
 {
     const QString address = lookup.getBestImageURL(ignoreLarge);
@@ -25,8 +25,8 @@ LookupCover getImage(
         return {};
     const auto data = fetch.fetch(QUrl(address));
     if (!data || data->isEmpty() || isBlankImage(*data, placeholderDigest))
-        return {true, {}};
-    return {true, Picture::fromEncoded(*data)};
+        return {};
+    return Picture::fromEncoded(*data);
 }
 
 } // namespace tomely

@@ -19,13 +19,9 @@ inline constexpr QStringView PlaceholderDigest = u"u9ZOcwLqWZo3okLpBRliA8/WZag="
 /// Another digest than the service's is for tests, which have no such picture.
 bool isBlankImage(QByteArrayView data, QStringView placeholderDigest = PlaceholderDigest);
 
-struct LookupCover {
-    bool hasAddress = false; // whether the look-up names a cover at all
-    Picture picture; // not valid when it is not there, no picture, or the placeholder
-};
-
-/// Fetches the best cover there is, or the best but the large one, and waits for it.
-LookupCover getImage(const BookLookup& lookup, bool ignoreLarge, UrlFetch& fetch,
+/// Fetches the best cover there is, or the best but the large one, and waits for it. Not valid when
+/// there is none, or what comes is no picture or the placeholder.
+Picture getImage(const BookLookup& lookup, bool ignoreLarge, UrlFetch& fetch,
     QStringView placeholderDigest = PlaceholderDigest);
 
 } // namespace tomely

@@ -31,6 +31,9 @@ public:
     /// The time is up, or the wait was ended.
     bool isOver() const { return m_isEnded || m_deadline.hasExpired(); }
 
+    /// It was ended before its time was up.
+    bool isEnded() const { return m_isEnded; }
+
     std::chrono::milliseconds timeLeft() const;
 
 private:

@@ -86,9 +86,9 @@ bool isUnreachable(QNetworkReply::NetworkError error)
 
 } // namespace
 
-ServerRequest::ServerRequest(const QUrl& url, const QHostAddress& address,
+ServerRequest::ServerRequest(const QUrl& url, const QHostAddress& address, qint64 mostBytes,
     const FetchPolicy& policy, std::function<void()> changed)
-    : m_mostBytes(policy.mostBytes)
+    : m_mostBytes(mostBytes)
     , m_changed(std::move(changed))
 {
     m_manager.setProxy(QNetworkProxy::NoProxy);
@@ -108,9 +108,8 @@ ServerRequest::~ServerRequest() = default;
 
 void ServerRequest::readHead()
 {
-    if (isFinished() || m_hasHead)
+    if (hasHead())
         return;
-    m_hasHead = true;
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (isRedirect(status)) {
         m_location = m_reply->rawHeader("Location").trimmed();
@@ -118,8 +117,8 @@ void ServerRequest::readHead()
     }
     const QByteArray encoding = m_reply->rawHeader("Content-Encoding").trimmed().toLower();
     const bool isEncoded = !encoding.isEmpty() && encoding != "identity";
-    if (status < 200 || status > 299 || isEncoded || !readLength())
-        change(State::Failed);
+    const bool isSuccess = status >= 200 && status <= 299 && !isEncoded && readLength();
+    change(isSuccess ? State::Answering : State::Failed);
 }
 
 /// False when the length is none, or more than is allowed: then nothing of the body is read.

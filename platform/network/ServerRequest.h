@@ -24,6 +24,7 @@ public:
     enum class State {
         Connecting,
         Waiting, // connected, and the server is who it should be
+        Answering, // it has told the head of a success
         Unreachable, // no connection came about; another address of the server may do
         Failed,
         Redirected,
@@ -31,16 +32,20 @@ public:
     };
 
     /// Asks for what the https address holds. What is asked is that address of its host and no
-    /// other, while the certificate must be that of the host. `changed` is called when the state
+    /// other, while the certificate must be that of the host. The body may have
+    /// `mostBytes`. `changed` is called when the state
     /// changed; the request must not be destroyed by it.
-    ServerRequest(const QUrl& url, const QHostAddress& address, const FetchPolicy& policy,
-        std::function<void()> changed);
+    ServerRequest(const QUrl& url, const QHostAddress& address, qint64 mostBytes,
+        const FetchPolicy& policy, std::function<void()> changed);
     ~ServerRequest();
     Q_DISABLE_COPY_MOVE(ServerRequest)
 
     State state() const { return m_state; }
 
-    bool isFinished() const { return m_state != State::Connecting && m_state != State::Waiting; }
+    /// The server has answered, or never will.
+    bool hasHead() const { return m_state != State::Connecting && m_state != State::Waiting; }
+
+    bool isFinished() const { return hasHead() && m_state != State::Answering; }
 
     /// Of a success.
     const QByteArray& body() const { return m_body; }
@@ -58,7 +63,6 @@ private:
     qint64 m_mostBytes;
     std::function<void()> m_changed;
     State m_state = State::Connecting;
-    bool m_hasHead = false;
     QByteArray m_location;
     // As the server told it.
     std::optional<qint64> m_length;

@@ -1,7 +1,8 @@
 // Fetches what an https address holds, for a caller that waits. Meanwhile events are handled, so
 // windows repaint; that no input reaches them is the caller's affair. It trusts nobody: it
 // asks only public servers whose certificates are valid, takes no longer and no more than it is
-// allowed, keeps nothing between fetches and tells a server no more than the program's name.
+// allowed, keeps no more than addresses between fetches and tells a server no more than the
+// program's name.
 
 #pragma once
 
@@ -33,6 +34,8 @@ struct FetchPolicy {
     /// Of the body of a reply.
     qint64 mostBytes = 20'000'000;
     int mostRedirects = 5;
+    /// From the connection to the end of a reply's head, whose size nobody limits.
+    std::chrono::milliseconds mostTimeToHead{10'000};
     /// Which addresses may be asked.
     std::function<bool(const QHostAddress&)> mayConnect = &isPublicAddress;
     /// Who may sign certificates besides those whom the system trusts.
@@ -55,8 +58,11 @@ public:
     /// A fetch within a fetch gives nothing. The object must not be destroyed meanwhile.
     std::optional<QByteArray> fetch(const QUrl& url);
 
+    /// The same with a limit of its own for the body, in bytes.
+    std::optional<QByteArray> fetch(const QUrl& url, qint64 mostBytes);
+
     /// Ends the running fetch, which then gives nothing, and so does every later one. May be called
-    /// by whatever is handled while a fetch waits.
+    /// by whatever is handled while a fetch waits; the end of the program is the same.
     void giveUp();
 
     bool isGivenUp() const { return m_isGivenUp; }

@@ -255,17 +255,30 @@ void DocumentController::saveAs(Document& document, Done done)
         : document.filePath();
     m_environment.panels.beginSavePanel(windowOf(document), m_environment.fileType, suggested,
         [this, target = QPointer(&document), done = std::move(done)](const QString& path) {
-            if (!target || path.isEmpty())
+            if (path.isEmpty())
                 return answer(done, false);
-            const Document* const holder = documentForFile(path);
-            if (holder && holder != target) {
-                m_environment.alerts.runModal(
-                    messageAlert(tr("'%1' is open in another window. Choose another name.")
-                                     .arg(holder->displayName())));
-                return answer(done, false);
-            }
-            answer(done, write(*target, path));
+            writeAs(target, path, done);
         });
+}
+
+void DocumentController::writeAs(
+    const QPointer<Document>& document, const QString& path, const Done& done)
+{
+    // A panel of the desktop is answered also while the program waits for something.
+    if (Waiting::isWaiting()) {
+        QTimer::singleShot(retryMilliseconds, this,
+            [this, document, path, done] { writeAs(document, path, done); });
+        return;
+    }
+    if (!document)
+        return answer(done, false);
+    const Document* const holder = documentForFile(path);
+    if (holder && holder != document) {
+        m_environment.alerts.runModal(messageAlert(
+            tr("'%1' is open in another window. Choose another name.").arg(holder->displayName())));
+        return answer(done, false);
+    }
+    answer(done, write(*document, path));
 }
 
 // Reverting

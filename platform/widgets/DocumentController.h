@@ -100,6 +100,7 @@ private:
     void watchWindow(Document& document, WindowController& window);
     std::unique_ptr<Document> readDocument(const QString& path, QWidget* window);
     bool write(Document& document, const QString& path);
+    void writeAs(const QPointer<Document>& document, const QString& path, const Done& done);
     bool beginAsking(const Document& document, DocumentWindow* window);
     void watchFurtherWindows(Document& document);
     void settleWindows(Document& document, Done done);

@@ -1,9 +1,9 @@
 #include "platform/widgets/InputPause.h"
 
-#include <QCoreApplication>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QKeyEvent>
-#include <QWindow>
+#include <QTimer>
+#include <QWidget>
 
 namespace tomely {
 
@@ -41,6 +41,38 @@ bool isInput(QEvent::Type type)
     }
 }
 
+/// Takes Escape, which was meant for a wait, away from windows for as long as it is held or pressed
+/// again and again, and destroys itself.
+class EscapeAftermath : public QObject {
+public:
+    EscapeAftermath()
+    {
+        m_end.setSingleShot(true);
+        m_end.setInterval(QApplication::doubleClickInterval());
+        connect(&m_end, &QTimer::timeout, this, &QObject::deleteLater);
+        m_end.start();
+        setObjectName(QLatin1StringView("escapeAftermath"));
+        setParent(QCoreApplication::instance());
+        parent()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isKey = event->type() == QEvent::KeyPress
+            || event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyRelease;
+        if (!isKey || static_cast<const QKeyEvent*>(event)->key() != Qt::Key_Escape)
+            return QObject::eventFilter(watched, event);
+        if (event->type() == QEvent::KeyPress)
+            m_end.start();
+        event->accept(); // comes as a plain key then and not as a shortcut
+        return true;
+    }
+
+private:
+    QTimer m_end;
+};
+
 } // namespace
 
 InputPause::InputPause(std::function<void()> escaped) : m_escaped(std::move(escaped))
@@ -53,16 +85,25 @@ InputPause::~InputPause()
 {
     QCoreApplication::instance()->removeEventFilter(this);
     QGuiApplication::restoreOverrideCursor();
+    new EscapeAftermath; // destroys itself
+}
+
+/// A question that blocks the program came up meanwhile, and no wait ends before it is answered.
+bool InputPause::isAnswering() const
+{
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return modal && modal->windowModality() == Qt::ApplicationModal;
 }
 
 bool InputPause::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!isInput(event->type()))
+    if (!isInput(event->type()) || isAnswering())
         return QObject::eventFilter(watched, event);
     // Accepted, a shortcut comes as a plain key; everything else has found nobody.
     event->setAccepted(event->type() == QEvent::ShortcutOverride);
-    if (event->type() == QEvent::KeyPress
-        && static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape)
+    const bool isEscape = event->type() == QEvent::KeyPress
+        && static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (isEscape || event->type() == QEvent::Close)
         m_escaped();
     return true;
 }

@@ -275,6 +275,7 @@ EditorWindow ProgramOnScreen::edit(const CollectionWindow& window, const QString
     const QPoint place = window.books().visualRect(index).center();
     QTest::mouseClick(window.books().viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(window.books().viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(window.books().viewport(), Qt::LeftButton, {}, place);
     return activeEditor(window);
 }
 

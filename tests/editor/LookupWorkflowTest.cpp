@@ -1,5 +1,6 @@
 #include "editor/LookupWorkflow.h"
 
+#include "editor/BookLookupController.h"
 #include "editor/DraggableImageView.h"
 #include "editor/NotesView.h"
 #include "editor/PopUpButton.h"
@@ -250,6 +251,8 @@ void LookupWorkflowTest::startsNothingWhenTheEditorIsClosed_data()
 
 void LookupWorkflowTest::startsNothingWhenTheEditorIsClosed()
 {
+    // Escape means something again.
+    QTRY_VERIFY(!qApp->findChild<QObject*>(u"escapeAftermath"_s));
     QFETCH(const QString, way);
     QPointer editor(&m_desk->openNew());
     EditorDesk::find<QLineEdit>(*editor, u"m_idTitle"_s).setText(u"Grapes"_s);
@@ -281,6 +284,10 @@ void LookupWorkflowTest::startsNothingUnderAnOpenSheet()
     editor.lookupBook();
     QCoreApplication::processEvents();
     QCOMPARE(server().connectionCount(), 0);
+    // The ISBN was left all the same.
+    editor.window()->findChild<BookLookupController*>()->cancel();
+    editor.window()->activateWindow();
+    QTRY_COMPARE(server().targets(), QList<QByteArray>{viewTarget(isbn)});
 }
 
 // What it changes
@@ -530,12 +537,12 @@ void LookupWorkflowTest::survivesTheEndOfItsEditor()
     QFETCH(const QByteArray, silentTarget);
     serveFullBook(server(), isbn);
     server().serve(silentTarget, {{}, 200, {}, Manner::Silence});
-    m_desk->fetchPolicy.mostTime = std::chrono::milliseconds(300);
     QPointer editor(&m_desk->openNew());
     m_desk->whileWaitingFor(silentTarget, [&] { m_desk->document.removeWindowController(editor); });
     QTest::keyClicks(&EditorDesk::find<QLineEdit>(*editor, u"m_idISBN"_s), isbn);
     QTest::keyClick(&EditorDesk::find<QLineEdit>(*editor, u"m_idISBN"_s), Qt::Key_Return);
     QTRY_VERIFY(!editor);
+    // Long before the time of the fetch is up.
     QTRY_VERIFY(!Waiting::isWaiting());
     QCOMPARE(m_desk->alerts.sheets.size(), 0);
 }

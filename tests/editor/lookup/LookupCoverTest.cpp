@@ -24,7 +24,7 @@ private Q_SLOTS:
     void fetchesEachSize_data();
     void fetchesEachSize();
     void leavesOutTheLargeOne();
-    void tellsWhenThereIsNoAddress();
+    void asksNobodyWithoutAnAddress();
     void refusesThePlaceholder();
     void givesNoPicture_data();
     void givesNoPicture();
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void givesNoPictureWithoutAServer();
 
 private:
-    LookupCover cover(bool ignoreLarge)
+    Picture cover(bool ignoreLarge)
     {
         return getImage(m_desk->lookUp(isbn), ignoreLarge, m_desk->fetch, scenePlaceholderDigest());
     }
@@ -94,47 +94,44 @@ void LookupCoverTest::fetchesEachSize()
     info["imageLinks"_L1] = links;
     serveVolume(m_desk->server, isbn, info);
     const SceneCover& wanted = sceneCovers.at(static_cast<std::size_t>(index));
-    const LookupCover result = cover(false);
-    QVERIFY(result.hasAddress);
-    QVERIFY(result.picture.isValid());
-    QCOMPARE(result.picture.size(), wanted.size);
+    const Picture result = cover(false);
+    QVERIFY(result.isValid());
+    QCOMPARE(result.size(), wanted.size);
     QCOMPARE(m_desk->server.targets().last(), coverTarget(wanted.link));
 }
 
 void LookupCoverTest::leavesOutTheLargeOne()
 {
     serveFullBook(m_desk->server, isbn);
-    QCOMPARE(cover(false).picture.size(), QSize(400, 600));
-    QCOMPARE(cover(true).picture.size(), QSize(200, 300));
+    QCOMPARE(cover(false).size(), QSize(400, 600));
+    QCOMPARE(cover(true).size(), QSize(200, 300));
 }
 
-void LookupCoverTest::tellsWhenThereIsNoAddress()
+void LookupCoverTest::asksNobodyWithoutAnAddress()
 {
     serveBookWithoutCovers(m_desk->server, isbn);
     for (const bool ignoreLarge : {false, true}) {
-        const LookupCover result = cover(ignoreLarge);
-        QVERIFY(!result.hasAddress);
-        QVERIFY(!result.picture.isValid());
+        const Picture result = cover(ignoreLarge);
+        QVERIFY(!result.isValid());
     }
     QVERIFY(!m_desk->server.targets().join(' ').contains("/covers/"));
     // An address that is there for the large one alone.
     serveBookPage(m_desk->server, isbn);
     m_desk->settings.enableAlternateSources = true;
-    QCOMPARE(cover(false).picture.size(), pageCoverSize);
-    QVERIFY(!cover(true).hasAddress);
+    QCOMPARE(cover(false).size(), pageCoverSize);
+    QVERIFY(!cover(true).isValid());
 }
 
 void LookupCoverTest::refusesThePlaceholder()
 {
     serveBookWithPlaceholder(m_desk->server, isbn);
-    const LookupCover large = cover(false);
-    QVERIFY(large.hasAddress);
-    QVERIFY(!large.picture.isValid());
+    const Picture large = cover(false);
+    QVERIFY(!large.isValid());
     QCOMPARE(m_desk->server.targets().last(), coverTarget("large"_L1));
-    QCOMPARE(cover(true).picture.size(), QSize(200, 300));
+    QCOMPARE(cover(true).size(), QSize(200, 300));
     // Nothing but its digest makes it one.
     const BookLookup lookup = m_desk->lookUp(isbn);
-    QVERIFY(getImage(lookup, false, m_desk->fetch).picture.isValid());
+    QVERIFY(getImage(lookup, false, m_desk->fetch).isValid());
 }
 
 void LookupCoverTest::givesNoPicture_data()
@@ -156,10 +153,9 @@ void LookupCoverTest::givesNoPicture()
     QFETCH(const int, status);
     serveFullBook(m_desk->server, isbn);
     m_desk->server.serve(coverTarget("large"_L1), {body, status});
-    const LookupCover large = cover(false);
-    QVERIFY(large.hasAddress);
-    QVERIFY(!large.picture.isValid());
-    QVERIFY(cover(true).picture.isValid());
+    const Picture large = cover(false);
+    QVERIFY(!large.isValid());
+    QVERIFY(cover(true).isValid());
 }
 
 void LookupCoverTest::givesNoPictureWithoutAServer_data()
@@ -177,9 +173,8 @@ void LookupCoverTest::givesNoPictureWithoutAServer()
 {
     QFETCH(const QString, address);
     serveVolume(m_desk->server, isbn, {{"imageLinks"_L1, QJsonObject{{"large"_L1, address}}}});
-    const LookupCover result = cover(false);
-    QVERIFY(result.hasAddress);
-    QVERIFY(!result.picture.isValid());
+    const Picture result = cover(false);
+    QVERIFY(!result.isValid());
 }
 
 QTEST_GUILESS_MAIN(LookupCoverTest)

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void init();
     void endsWhenTimeIsUp_data();
     void endsWhenTimeIsUp();
+    void limitsTheTimeOfAHead_data();
+    void limitsTheTimeOfAHead();
     void sharesTimeAmongRedirects();
     void endsWhenServerSaysNothing();
     void refusesAtOnce_data();
@@ -91,6 +93,32 @@ void UrlFetchHostileTest::endsWhenTimeIsUp()
     QVERIFY(m_time >= mostTime.count());
     QVERIFY2(m_time < mostTime.count() + slack, qPrintable(QString::number(m_time)));
     QCOMPARE(m_server->requests().size(), 1);
+}
+
+void UrlFetchHostileTest::limitsTheTimeOfAHead_data()
+{
+    QTest::addColumn<ServedReply>("reply");
+    QTest::newRow("silence") << ServedReply{"text", 200, {}, Manner::Silence};
+    QTest::newRow("endless head") << ServedReply{{}, 200, {}, Manner::EndlessHead};
+    QTest::newRow("endless field")
+        << ServedReply{QByteArray(1000, 'x'), 200, {}, Manner::EndlessHead};
+}
+
+void UrlFetchHostileTest::limitsTheTimeOfAHead()
+{
+    QFETCH(const ServedReply, reply);
+    m_server->serve("/", reply);
+    // Whatever the limit of all is: nobody limits the size of a head.
+    FetchPolicy policy = m_authority.policy();
+    policy.mostTimeToHead = std::chrono::milliseconds(100);
+    QElapsedTimer time;
+    time.start();
+    QCOMPARE(UrlFetch(policy).fetch(m_server->url("/")), std::nullopt);
+    QVERIFY2(
+        time.elapsed() < policy.mostTime.count() / 2, qPrintable(QString::number(time.elapsed())));
+    // A body may take longer than that.
+    m_server->serve("/", {QByteArray(20, 'x'), 200, {}, Manner::Drip});
+    QCOMPARE(UrlFetch(policy).fetch(m_server->url("/")), QByteArray(20, 'x'));
 }
 
 void UrlFetchHostileTest::sharesTimeAmongRedirects()

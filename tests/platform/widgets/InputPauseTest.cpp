@@ -1,13 +1,16 @@
 #include "platform/widgets/InputPause.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -62,6 +65,9 @@ private Q_SLOTS:
     void theCloseButtonDoesNothing();
     void dropsAreRefused();
     void escapeIsTold();
+    void aCloseButtonIsTold();
+    void escapeMeansNothingForAMoment();
+    void aQuestionThatBlocksCanBeAnswered();
     void windowsRepaint();
     void everythingWorksAgainAfterwards();
     void countsAsAWait();
@@ -134,6 +140,40 @@ void InputPauseTest::escapeIsTold()
     QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
     QVERIFY(escapes > 0); // an event of the window also passes its parts
     QCOMPARE(m_window->commands, 0); // not even a shortcut of that key
+}
+
+void InputPauseTest::aCloseButtonIsTold()
+{
+    int escapes = 0;
+    const InputPause pause([&escapes] { ++escapes; });
+    m_window->windowHandle()->close();
+    QVERIFY(escapes > 0);
+    QVERIFY(m_window->isVisible());
+}
+
+void InputPauseTest::escapeMeansNothingForAMoment()
+{
+    {
+        const InputPause pause([] {});
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+    }
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(m_window->commands, 0);
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_B, Qt::ControlModifier); // other keys do
+    QCOMPARE(m_window->commands, 1);
+    // Once nobody has pressed it for a while.
+    QTRY_VERIFY(qApp->findChildren<QObject*>(u"escapeAftermath"_s).isEmpty());
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(m_window->commands, 2);
+}
+
+void InputPauseTest::aQuestionThatBlocksCanBeAnswered()
+{
+    const InputPause pause([] {});
+    QMessageBox question(QMessageBox::Question, QString(), u"Well?"_s, QMessageBox::Ok);
+    QTimer::singleShot(0, &question,
+        [&question] { QTest::mouseClick(question.button(QMessageBox::Ok), Qt::LeftButton); });
+    QCOMPARE(question.exec(), static_cast<int>(QMessageBox::Ok));
 }
 
 void InputPauseTest::windowsRepaint()

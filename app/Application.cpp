@@ -12,10 +12,17 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QSessionManager>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace tomely {
+
+namespace {
+
+constexpr int retryMilliseconds = 200; // while the program waits for something
+
+} // namespace
 
 Application::Application(
     UserDefaults& defaults, Alerts& alerts, FilePanels& panels, FetchPolicy fetchPolicy)
@@ -23,6 +30,7 @@ Application::Application(
     , m_alerts(alerts)
     , m_panels(panels)
     , m_fetchPolicy(std::move(fetchPolicy))
+    , m_toolbar(defaults)
     , m_documents({alerts, panels, defaults, collectionFileType(),
           [this] {
               return makeDocument();
@@ -79,8 +87,16 @@ void Application::askBeforeLogout(QSessionManager& session)
     // The questions are answered later; until then the session has to wait.
     session.cancel();
     if (session.allowsInteraction())
-        quit(m_documents);
+        askAndQuit();
     session.release();
+}
+
+void Application::askAndQuit()
+{
+    if (Waiting::isWaiting())
+        QTimer::singleShot(retryMilliseconds, this, &Application::askAndQuit);
+    else
+        quit(m_documents);
 }
 
 void Application::showStartWindowWhenAlone()
@@ -117,7 +133,7 @@ ListWindowServices Application::listWindowServices()
         addWindowMenu(*editor->window(), m_documents);
         return editor;
     };
-    return {m_alerts, m_defaults,
+    return {m_alerts, m_defaults, m_toolbar,
         [this, withWindowMenu](BookListDocument& document, QRect frame) {
             return withWindowMenu(
                 BookEntryWindowController::initWithRect(frame, document, editorServices()));

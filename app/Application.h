@@ -6,6 +6,7 @@
 #include "app/StartWindow.h"
 #include "app/TomelyDelegate.h"
 #include "editor/SpellChecker.h"
+#include "listwindow/ToolbarConfiguration.h"
 #include "platform/network/UrlFetch.h"
 #include "platform/widgets/DocumentController.h"
 
@@ -46,6 +47,7 @@ private:
     EditorServices editorServices();
     void comeForward();
     void askBeforeLogout(QSessionManager& session);
+    void askAndQuit();
     void showStartWindowWhenAlone();
 
     UserDefaults& m_defaults;
@@ -53,6 +55,7 @@ private:
     FilePanels& m_panels;
     FetchPolicy m_fetchPolicy;
     SpellChecker m_spellChecker; // for the notes of all editors
+    ToolbarConfiguration m_toolbar; // of all main windows
     DocumentController m_documents;
     TomelyDelegate m_delegate;
     StartWindow m_startWindow;

@@ -3,6 +3,7 @@
 
 #include "bench/Libraries.h"
 #include "listwindow/BookListWindowController.h"
+#include "listwindow/ToolbarConfiguration.h"
 #include "listwindow/engine/ColumnKind.h"
 #include "platform/UserDefaults.h"
 #include "platform/widgets/MessageBoxAlerts.h"
@@ -30,7 +31,7 @@ public:
     explicit ShownLibrary(int books)
         : m_document({.makeWindow = [this](BookListDocument& document) {
             auto controller = std::make_unique<BookListWindowController>(
-                document, ListWindowServices{m_alerts, m_defaults, {}, {}});
+                document, ListWindowServices{m_alerts, m_defaults, m_toolbar, {}, {}});
             m_controller = controller.get();
             document.addWindowController(std::move(controller));
             return m_controller;
@@ -61,6 +62,7 @@ private:
     MessageBoxAlerts m_alerts;
     QTemporaryDir m_folder;
     UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
+    ToolbarConfiguration m_toolbar{m_defaults};
     BookListWindowController* m_controller = nullptr;
     BookListDocument m_document;
 };

@@ -4,8 +4,10 @@
 #include "cli/OptionValues.h"
 #include "document/BookListDocument.h"
 #include "listwindow/engine/BookOrder.h"
+#include "listwindow/engine/FilterInput.h"
 #include "listwindow/engine/ListEngine.h"
-#include "platform/LenientNumbers.h"
+
+#include <QLocale>
 
 #include <array>
 
@@ -87,39 +89,6 @@ void setComparison(BookFilter& filter, const QString& word)
     filter.m_nFilterSelectionForDate = found->ofDates.value_or(DateTest::Equal);
 }
 
-template <class Keep>
-QString onlyThose(const QString& text, Keep&& keep)
-{
-    QString kept;
-    for (const QChar character : text) {
-        if (keep(character))
-            kept += character;
-    }
-    return kept;
-}
-
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
-
-// The number and the year are read as the filter bar reads them: what does not belong is dropped,
-// and what is no number even then counts as 0, from which every filter starts.
-
-void setNumber(BookFilter& filter, const QString& text)
-{
-    const QString kept = onlyThose(text, [](QChar character) {
-        return isDigit(character) || character == u'.' || character == u',';
-    });
-    filter.m_bFilter_NumericHasValue = !kept.isEmpty();
-    filter.m_dblFilter_Numeric = leadingDouble(kept);
-}
-
-void setYear(BookFilter& filter, const QString& text)
-{
-    filter.m_nFilter_DateYear = leadingInt(onlyThose(text, isDigit));
-}
-
 qint32 monthOption(const Arguments& arguments)
 {
     const qint32 month = integerOption(arguments, "--month"_L1).value_or(0);
@@ -146,9 +115,9 @@ ViewOptions ViewOptions::of(const Arguments& arguments)
         throw cannotTake("--filter"_L1, QString::number(filter.m_nSelectedFilter));
     filter.m_strFilter = arguments.value("--text"_L1).value_or(QString());
     setComparison(filter, arguments.value("--compare"_L1).value_or(u"equal"_s));
-    setNumber(filter, arguments.value("--number"_L1).value_or(QString()));
+    setFilterNumber(filter, arguments.value("--number"_L1).value_or(QString()), QLocale::c());
     filter.m_nFilter_DateMonth = monthOption(arguments);
-    setYear(filter, arguments.value("--year"_L1).value_or(QString()));
+    setFilterYear(filter, arguments.value("--year"_L1).value_or(QString()));
     const TriState state =
         choiceOption<TriState>(arguments, "--state"_L1, states).value_or(TriState::All);
     filter.m_nFilterSelectionForChecks = state;

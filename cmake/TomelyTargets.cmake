@@ -42,8 +42,8 @@ target_include_directories(tomely_qt_test SYSTEM
                            INTERFACE $<TARGET_PROPERTY:Qt6::Test,INTERFACE_INCLUDE_DIRECTORIES>)
 target_compile_definitions(tomely_qt_test INTERFACE QT_TESTLIB_LIB)
 
-set(tomely_window_targets tomely_platform_widgets tomely_listwindow tomely_editor
-                          tomely_app)
+set(tomely_window_targets tomely_platform_widgets tomely_document_widgets tomely_listwindow
+                          tomely_editor tomely_app)
 foreach(kind plain window)
   set(name tomely_${kind}_test_headers)
   file(WRITE "${PROJECT_BINARY_DIR}/${name}.cpp" "")

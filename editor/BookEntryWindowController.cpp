@@ -1,6 +1,7 @@
 #include "editor/BookEntryWindowController.h"
 
 #include "document/BookListDocument.h"
+#include "document/widgets/GroupManagerController.h"
 #include "editor/BookLookupController.h"
 #include "editor/CustomLabels.h"
 #include "editor/EditingEnd.h"
@@ -108,7 +109,8 @@ void BookEntryWindowController::windowDidLoad()
     // Seen on either tab: a look-up may start while the person goes on to the other one.
     m_ui->m_idTab->setCornerWidget(m_ui->m_idLookupProgress);
     m_ui->m_idLookupProgress->hide();
-    m_ui->m_idGroupButton->hide();
+    connect(m_ui->m_idGroupButton, &QPushButton::clicked, this,
+        &BookEntryWindowController::manageGroups);
     connect(new EditingEnd(*m_ui->m_idISBN), &EditingEnd::editingEnded, this,
         &BookEntryWindowController::isbnChanged);
     connect(m_ui->m_idLookupButton, &QPushButton::clicked, this,
@@ -131,7 +133,7 @@ void BookEntryWindowController::windowDidLoad()
     }
     addEditorMenus(*window()->menuBar(),
         {[this] { saveEntry(m_ui->m_idSaveButton); }, [this] { addMore(); },
-            [this] { lookupBook(); }, [this] { cancelEntry(); },
+            [this] { lookupBook(); }, [this] { manageGroups(); }, [this] { cancelEntry(); },
             [this] {
                 return m_ui->m_idSaveButton->isEnabled();
             }});
@@ -217,6 +219,7 @@ void BookEntryWindowController::fillNew()
     m_form->settle();
     m_wells->fill(BookEntry());
     m_dSelectedGroups = {};
+    m_openedGroups = {};
     setSaveEnabled(false);
     changedBookType();
     updateTitle();
@@ -227,6 +230,7 @@ void BookEntryWindowController::fill(const BookEntry& entry)
     selectFirstTab(false);
     m_strBookKey = entry.getKey();
     m_dSelectedGroups = entry.getSelectedGroups();
+    m_openedGroups = m_dSelectedGroups;
     m_form->fill(entry);
     m_wells->fill(entry);
     m_lookup->rememberISBN();
@@ -322,6 +326,17 @@ QString BookEntryWindowController::getISBN() const
     return m_ui->m_idISBN->text();
 }
 
+// Groups
+
+void BookEntryWindowController::manageGroups()
+{
+    if (m_isClosed || m_groupManagerController || Waiting::isWaiting())
+        return;
+    m_labels->endEditing();
+    m_groupManagerController =
+        new GroupManagerController(*window(), m_document, &m_dSelectedGroups);
+}
+
 // Looking up
 
 void BookEntryWindowController::isbnChanged()
@@ -403,7 +418,9 @@ void BookEntryWindowController::closeEditor()
 
 std::optional<UnsavedWork> BookEntryWindowController::unsavedWork() const
 {
-    if (m_isClosed || !(m_form->isChanged() || m_wells->isChanged()))
+    const bool isChanged =
+        m_form->isChanged() || m_wells->isChanged() || m_dSelectedGroups != m_openedGroups;
+    if (m_isClosed || !isChanged)
         return std::nullopt;
     const QString title = trimmedText(m_ui->m_idTitle->text());
     return UnsavedWork{title.isEmpty()

@@ -28,6 +28,7 @@ class CompletingComboBox;
 class CustomLabels;
 class EntryForm;
 class FilePanels;
+class GroupManagerController;
 class ImageWells;
 class LookupWorkflow;
 class SpellChecker;
@@ -62,6 +63,9 @@ public:
 
     /// The person has finished with the ISBN: looks it up when it is another one than before.
     void isbnChanged();
+
+    /// Lets the person tick the book's groups, in a sheet; they are written on save.
+    void manageGroups();
 
     /// Asks for an ISBN to look up, in a sheet.
     void lookupBook();
@@ -132,8 +136,10 @@ private:
     std::unique_ptr<ImageWells> m_wells;
     std::unique_ptr<LookupWorkflow> m_lookup;
     QPointer<BookLookupController> m_bookLookupController; // owned by the window
+    QPointer<GroupManagerController> m_groupManagerController; // owned by the window
     QString m_strBookKey; // null for a new book
     GroupMembership m_dSelectedGroups; // the editor's own copy
+    GroupMembership m_openedGroups; // as they were when the editor opened
     bool m_isPlaced = false;
     bool m_isClosed = false;
 };

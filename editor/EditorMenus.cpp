@@ -48,6 +48,8 @@ void addEditorMenus(QMenuBar& menuBar, const EditorCommands& commands)
     menu.addSeparator();
     addItem(menu, "lookUpBook"_L1, "edit-find"_L1, tr("&Look Up…"),
         {QKeySequence(Qt::CTRL | Qt::Key_L)}, commands.lookUp);
+    addItem(menu, "manageGroups"_L1, "view-list-details"_L1, tr("&Groups…"),
+        {QKeySequence(Qt::CTRL | Qt::Key_G)}, commands.manageGroups);
     menu.addSeparator();
     addItem(menu, "closeEditor"_L1, "window-close"_L1, tr("&Close"),
         {QKeySequence(Qt::CTRL | Qt::Key_W)}, commands.close);

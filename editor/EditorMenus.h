@@ -13,6 +13,7 @@ struct EditorCommands {
     std::function<void()> save;
     std::function<void()> saveAndAddMore;
     std::function<void()> lookUp;
+    std::function<void()> manageGroups;
     std::function<void()> close;
     std::function<bool()> canSave; // asked when the menu opens
 };

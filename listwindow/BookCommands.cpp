@@ -18,22 +18,6 @@ BookCommands::BookCommands(BookListDocument& document, ListWindowServices servic
 {
 }
 
-void BookCommands::perform(CommandId id)
-{
-    switch (id) {
-    case CommandId::AddBook:
-        return clickedAdd();
-    case CommandId::EditBook:
-        return clickedEdit();
-    case CommandId::DeleteBook:
-        return clickedDelete();
-    case CommandId::ScaleAllImages:
-        return clickedScaleAllImages();
-    case CommandId::RemoveAllImages:
-        return clickedRemoveAllImages();
-    }
-}
-
 void BookCommands::endEditing()
 {
     m_document.getWindowController()->endGroupNameEditting();

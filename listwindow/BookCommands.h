@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "listwindow/CommandTable.h"
-
 #include <QObject>
 #include <QRect>
 #include <QStringList>
@@ -21,12 +19,14 @@ class BookEditorWindow;
 class BookEntry;
 class BookListDocument;
 class DocumentWindow;
+class ToolbarConfiguration;
 class UserDefaults;
 
 /// What the main window needs from the program; everything must outlive it.
 struct ListWindowServices {
     Alerts& alerts;
     UserDefaults& defaults;
+    ToolbarConfiguration& toolbar;
     /// Makes an editor for a new book, at the frame in screen coordinates unless that is empty.
     std::function<std::unique_ptr<DocumentWindow>(BookListDocument& document, QRect frame)>
         makeNewEditor;
@@ -43,8 +43,6 @@ public:
     /// mean first. Everything must outlive the commands.
     BookCommands(BookListDocument& document, ListWindowServices services, QWidget& window,
         std::function<QStringList()> selectedKeys);
-
-    void perform(CommandId id);
 
     void clickedAdd();
     void addNewBook(QRect frame);

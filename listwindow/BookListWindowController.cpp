@@ -2,22 +2,31 @@
 
 #include "document/BookEditorWindow.h"
 #include "document/BookListDocument.h"
+#include "listwindow/BookDrag.h"
+#include "listwindow/BookSelection.h"
 #include "listwindow/BookTableModel.h"
 #include "listwindow/BookTableView.h"
 #include "listwindow/ColumnLayout.h"
 #include "listwindow/CommandActions.h"
+#include "listwindow/CommandToolbar.h"
+#include "listwindow/CustomizeListController.h"
+#include "listwindow/CustomizeToolbarDialog.h"
+#include "listwindow/EmptyList.h"
 #include "listwindow/engine/BookOrder.h"
+#include "listwindow/FilterBar.h"
 #include "listwindow/GroupSidebar.h"
+#include "listwindow/HeaderMenu.h"
 #include "listwindow/SingleLineDelegate.h"
 #include "listwindow/ui_BookListWindow.h"
 #include "platform/widgets/ScreenFrames.h"
+#include "platform/widgets/Waiting.h"
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <vector>
@@ -51,14 +60,19 @@ BookListWindowController::BookListWindowController(
     : WindowController(document)
     , m_document(document)
     , m_ui(std::make_unique<Ui::BookListWindow>())
+    , m_services(std::move(services))
     , m_engine(document)
-    , m_commands(document, std::move(services), *window(), [this] { return selectedKeys(); })
+    , m_commands(document, m_services, *window(), [this] { return selectedBookKeys(); })
 {
     m_ui->setupUi(window());
     // The first size is a wish: on a small screen the window starts no larger than that.
     window()->resize(window()->size().boundedTo(window()->screen()->availableSize()));
     updateTitle();
+    m_engine.filter().m_nSelectedFilter = ColumnKey::AuthorAndTitle;
     buildBookTable();
+    buildSidebar();
+    buildToolbar();
+    sharePanes();
     windowDidLoad();
 }
 
@@ -73,28 +87,43 @@ void BookListWindowController::buildBookTable()
         std::make_unique<BookTableModel>(m_engine.getDisplayedBooks(), m_document.getListColumns());
     m_bookTable->setModel(m_bookModel.get());
     m_bookTable->setItemDelegate(new SingleLineDelegate(m_bookTable));
+    m_bookTable->setContextMenuPolicy(Qt::CustomContextMenu);
     m_bookTable->verticalHeader()->hide();
     m_bookTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_bookTable->verticalHeader()->setDefaultSectionSize(rowHeight(*m_bookTable));
-    m_ui->m_idGroupTable->verticalHeader()->setDefaultSectionSize(rowHeight(*m_bookTable));
     m_columns = std::make_unique<ColumnLayout>(*m_bookTable, *m_bookModel, m_document);
-    m_sidebar = std::make_unique<GroupSidebar>(*m_ui->m_idGroupTable, m_document);
-
-    m_actions = std::make_unique<CommandActions>(*m_bookTable);
-
-    m_emptyText = new QLabel;
-    m_emptyText->setObjectName("m_idEmptyText"_L1);
-    m_emptyText->setAlignment(Qt::AlignCenter);
-    m_emptyText->setWordWrap(true);
-    m_emptyText->setForegroundRole(QPalette::PlaceholderText);
-    m_emptyText->setBackgroundRole(QPalette::Base);
-    m_emptyText->setAutoFillBackground(true);
-    m_ui->m_idListPages->addWidget(m_emptyText);
+    m_headerMenu =
+        std::make_unique<HeaderMenu>(*m_bookTable->horizontalHeader(), *m_bookModel, m_document);
+    m_bookDrag = std::make_unique<BookDrag>(*m_bookTable, getDisplayedBooks());
+    m_emptyList = new EmptyList;
+    m_ui->m_idListPages->addWidget(m_emptyList);
     m_idStatusText = new QLabel;
     m_idStatusText->setObjectName("m_idStatusText"_L1);
     m_idStatusText->setMargin(statusMargin);
     m_ui->m_idStatusBar->addWidget(m_idStatusText);
+}
 
+void BookListWindowController::buildSidebar()
+{
+    GroupTableView& table = *m_ui->m_idGroupTable;
+    table.verticalHeader()->setDefaultSectionSize(rowHeight(*m_bookTable));
+    table.setDropSource(*m_bookTable);
+    m_sidebar = std::make_unique<GroupSidebar>(table, m_document);
+    m_groupCommands = std::make_unique<GroupCommands>(m_document, m_services.alerts, *window(),
+        *m_sidebar, [this] { return selectedBookKeys(); });
+}
+
+void BookListWindowController::buildToolbar()
+{
+    m_actions = std::make_unique<CommandActions>(*m_bookTable);
+    m_filterBar = new FilterBar(m_engine.filter(), m_document.getListColumns());
+    m_toolbar = new CommandToolbar(*m_actions, m_services.toolbar, *m_filterBar, window());
+    window()->addToolBar(m_toolbar);
+    window()->setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's could hide the toolbar
+}
+
+void BookListWindowController::sharePanes()
+{
     m_ui->m_idListSplitter->setStretchFactor(0, 0);
     m_ui->m_idListSplitter->setStretchFactor(1, 1);
     m_ui->m_idImageSplitter->setStretchFactor(0, 1);
@@ -108,6 +137,18 @@ void BookListWindowController::windowDidLoad()
 {
     m_columns->setupInitialColumns();
     BookListWindowController::initFilterDropDown();
+    connectRooms();
+    connectCommands();
+    m_sidebar->populateGroups();
+    m_sidebar->refreshGroupList();
+    BookListWindowController::refresh();
+    m_document.clearChangeCount();
+    connect(&m_startupTimer, &QTimer::timeout, this, &BookListWindowController::startupTimer);
+    m_startupTimer.start(startupTimerMilliseconds);
+}
+
+void BookListWindowController::connectRooms()
+{
     connect(m_columns.get(), &ColumnLayout::headingClicked, this,
         &BookListWindowController::didClickTableColumn);
     connect(m_columns.get(), &ColumnLayout::changedByUser, this,
@@ -117,17 +158,41 @@ void BookListWindowController::windowDidLoad()
             &BookListWindowController::windowLayoutChanged);
     connect(m_sidebar.get(), &GroupSidebar::groupSelected, this,
         &BookListWindowController::groupSelected);
+    connect(
+        m_ui->m_idGroupTable, &GroupTableView::booksDropped, this, [this](const QString& groupKey) {
+            m_groupCommands->addBooksToGroup(m_bookDrag->draggedBooks(), groupKey);
+        });
     connect(m_bookTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &BookListWindowController::bookListSelectionDidChange);
-    connect(m_actions.get(), &CommandActions::triggered, &m_commands, &BookCommands::perform);
-    connect(m_bookTable, &BookTableView::rowDoubleClicked, &m_commands, &BookCommands::clickedEdit);
     connect(&m_commands, &BookCommands::booksDeleted, m_bookTable, &QTableView::clearSelection);
-    m_sidebar->populateGroups();
-    m_sidebar->refreshGroupList();
-    BookListWindowController::refresh();
-    m_document.clearChangeCount();
-    connect(&m_startupTimer, &QTimer::timeout, this, &BookListWindowController::startupTimer);
-    m_startupTimer.start(startupTimerMilliseconds);
+    connect(m_filterBar, &FilterBar::filterChanged, this, [this] { refresh(); });
+    connect(m_filterBar, &FilterBar::labelChanged, m_toolbar, &CommandToolbar::setSearchLabel);
+}
+
+void BookListWindowController::connectCommands()
+{
+    connect(m_actions.get(), &CommandActions::triggered, this, &BookListWindowController::perform);
+    m_actions->setGroupChoices([this] {
+        std::vector<GroupChoice> choices;
+        for (const GroupEntry* const group : m_document.getGroups().byName())
+            choices.push_back({group->getKey(), group->getGroupName()});
+        return choices;
+    });
+    connect(m_actions.get(), &CommandActions::addToGroupChosen, m_groupCommands.get(),
+        &GroupCommands::addToGroup);
+    connect(m_bookTable, &BookTableView::rowDoubleClicked, this,
+        [this] { perform(CommandId::EditBook); });
+    connect(m_bookTable, &QWidget::customContextMenuRequested, this,
+        &BookListWindowController::showBookMenu);
+    connect(m_ui->m_idGroupTable, &GroupTableView::contextMenuRequested, this,
+        [this](QPoint place, bool isOnGroup) { m_actions->groupMenu(!isOnGroup).popup(place); });
+    connect(m_headerMenu.get(), &HeaderMenu::customizeListRequested, this,
+        [this] { perform(CommandId::CustomizeList); });
+    connect(m_emptyList, &EmptyList::addBook, this, [this] { perform(CommandId::AddBook); });
+    connect(m_emptyList, &EmptyList::clearFilter, this, [this] {
+        perform(CommandId::ClearFilter);
+        m_bookTable->setFocus(); // the button that had it is gone
+    });
 }
 
 void BookListWindowController::startupTimer()
@@ -214,7 +279,7 @@ void BookListWindowController::updateColumnName(const ColumnEntry& column)
 
 void BookListWindowController::initFilterDropDown()
 {
-    // The window offers no choice of a filter field whose names could have changed.
+    m_filterBar->initFilterDropDown();
 }
 
 void BookListWindowController::updateCurrentColumnInfo()
@@ -245,6 +310,7 @@ void BookListWindowController::groupsChanged()
 {
     const bool selectionMoved = m_sidebar->groupsChanged();
     m_engine.filter().m_nSelectedGroupKey = m_sidebar->selectedGroupKey();
+    updateCommands();
     m_document.setBooksChanged();
     if (selectionMoved || m_engine.filter().m_nSelectedFilter == ColumnKey::Groups)
         refresh();
@@ -262,9 +328,65 @@ void BookListWindowController::addNewBook(QRect frame)
     m_commands.addNewBook(frame);
 }
 
+void BookListWindowController::perform(CommandId id)
+{
+    if (Waiting::isWaiting())
+        return;
+    switch (id) {
+    case CommandId::AddBook:
+        return m_commands.clickedAdd();
+    case CommandId::EditBook:
+        return m_commands.clickedEdit();
+    case CommandId::DeleteBook:
+        return m_commands.clickedDelete();
+    case CommandId::RemoveFromGroup:
+        return m_groupCommands->clickedRemoveFromGroup();
+    case CommandId::ScaleAllImages:
+        return m_commands.clickedScaleAllImages();
+    case CommandId::RemoveAllImages:
+        return m_commands.clickedRemoveAllImages();
+    case CommandId::AddGroup:
+        return m_groupCommands->clickedAddGroup();
+    case CommandId::RenameGroup:
+        return m_groupCommands->clickedRenameGroup();
+    case CommandId::DeleteGroup:
+        return m_groupCommands->clickedDeleteGroup();
+    case CommandId::CustomizeGroups:
+        return m_groupCommands->clickedCustomizeGroups();
+    case CommandId::CustomizeList:
+        return clickedCustomizeList();
+    case CommandId::CustomizeToolbar:
+        return clickedCustomizeToolbar();
+    case CommandId::Find:
+        return m_filterBar->focusText();
+    case CommandId::ClearFilter:
+        return m_filterBar->clear();
+    }
+}
+
+void BookListWindowController::clickedCustomizeList()
+{
+    endGroupNameEditting();
+    if (!m_customizeListController)
+        m_customizeListController =
+            new CustomizeListController(*window(), m_document, m_document.getListColumns());
+}
+
+void BookListWindowController::clickedCustomizeToolbar()
+{
+    endGroupNameEditting();
+    (new CustomizeToolbarDialog(m_services.toolbar, window()))->open();
+}
+
+void BookListWindowController::showBookMenu(QPoint place)
+{
+    if (selectedRow(*m_bookTable) >= 0)
+        m_actions->bookMenu().popup(m_bookTable->viewport()->mapToGlobal(place));
+}
+
 void BookListWindowController::updateCommands()
 {
-    m_actions->update({selectedRow() >= 0});
+    m_actions->update({selectedRow(*m_bookTable) >= 0, m_sidebar->selectedGroupKey() > 0});
 }
 
 void BookListWindowController::endGroupNameEditting()
@@ -291,46 +413,12 @@ void BookListWindowController::refresh()
 void BookListWindowController::reloadTable()
 {
     const QScopedValueRollback reloading(m_isReloading, true);
-    QItemSelectionModel& selection = *m_bookTable->selectionModel();
-    // Selected rows stay selected by their place in the list.
-    std::vector<std::pair<int, int>> ranges;
-    for (const QItemSelectionRange& range : selection.selection())
-        ranges.emplace_back(range.top(), range.bottom());
-    const int oldRow = selectedRow();
-    const int scrolledTo = m_bookTable->verticalScrollBar()->value();
-    const int scrolledRight = m_bookTable->horizontalScrollBar()->value();
-
+    KeptSelection selection(*m_bookTable);
     m_bookModel->beginReload();
     m_engine.loadBookKeys();
     m_bookModel->endReload();
-
-    const int lastRow = m_bookModel->rowCount() - 1;
-    m_ui->m_idListPages->setCurrentIndex(lastRow >= 0 ? 0 : 1);
-    if (lastRow < 0)
-        return;
-    QItemSelection kept;
-    const int lastColumn = m_bookModel->columnCount() - 1;
-    const auto add = [&](int top, int bottom) {
-        kept.select(m_bookModel->index(top, 0), m_bookModel->index(bottom, lastColumn));
-    };
-    const int row = std::clamp(oldRow, 0, lastRow);
-    if (oldRow < 0 || oldRow > lastRow) {
-        add(row, row);
-    } else {
-        for (const auto& [top, bottom] : ranges) {
-            if (top <= lastRow)
-                add(top, std::min(bottom, lastRow));
-        }
-    }
-    selection.setCurrentIndex(m_bookModel->index(row, 0), QItemSelectionModel::NoUpdate);
-    selection.select(kept, QItemSelectionModel::ClearAndSelect);
-    m_bookTable->verticalScrollBar()->setValue(scrolledTo);
-    // A row that is selected in another one's place must be seen.
-    if (row != oldRow) {
-        const int column = m_bookModel->columnOfKey(m_columns->firstColumnKey());
-        m_bookTable->scrollTo(m_bookModel->index(row, column));
-    }
-    m_bookTable->horizontalScrollBar()->setValue(scrolledRight);
+    m_ui->m_idListPages->setCurrentIndex(getDisplayedBooks().empty() ? 1 : 0);
+    selection.restore(m_bookModel->columnOfKey(m_columns->firstColumnKey()));
 }
 
 QString BookListWindowController::statusText() const
@@ -343,39 +431,14 @@ QString BookListWindowController::statusText() const
 void BookListWindowController::showStatus()
 {
     m_idStatusText->setText(statusText());
-    m_emptyText->setText(m_document.getBookListSize() == 0
-            ? tr("There are no books in this collection yet.")
-            : tr("There are no books in this group."));
+    if (getDisplayedBooks().empty())
+        m_emptyList->showReason(
+            emptyReason({m_document.getBookListSize(), m_filterBar->isFiltering()}));
 }
 
-int BookListWindowController::selectedRow() const
+QStringList BookListWindowController::selectedBookKeys() const
 {
-    const QItemSelectionModel& selection = *m_bookTable->selectionModel();
-    const int current = m_bookTable->currentIndex().row();
-    if (current >= 0 && selection.isRowSelected(current, {}))
-        return current;
-    int first = -1;
-    for (const QItemSelectionRange& range : selection.selection())
-        first = first < 0 ? range.top() : std::min(first, range.top());
-    return first;
-}
-
-QStringList BookListWindowController::selectedKeys() const
-{
-    QStringList keys;
-    const std::vector<BookEntry*>& books = getDisplayedBooks();
-    const int first = selectedRow();
-    if (first >= 0)
-        keys.append(books.at(static_cast<std::size_t>(first))->getKey());
-    QItemSelection selection = m_bookTable->selectionModel()->selection();
-    std::ranges::sort(selection, {}, [](const QItemSelectionRange& range) { return range.top(); });
-    for (const QItemSelectionRange& range : std::as_const(selection)) {
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            if (row != first)
-                keys.append(books.at(static_cast<std::size_t>(row))->getKey());
-        }
-    }
-    return keys;
+    return selectedKeys(*m_bookTable, getDisplayedBooks());
 }
 
 void BookListWindowController::bookListSelectionDidChange()
@@ -383,7 +446,7 @@ void BookListWindowController::bookListSelectionDidChange()
     if (m_isReloading)
         return;
     updateCommands();
-    const int row = selectedRow();
+    const int row = selectedRow(*m_bookTable);
     const BookEntry* const book =
         row >= 0 ? getDisplayedBooks().at(static_cast<std::size_t>(row)) : nullptr;
     const quint64 stamp = book ? book->changeStamp() : 0;

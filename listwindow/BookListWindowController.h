@@ -1,14 +1,17 @@
 // The main window of a collection: builds it from its rooms (list engine, tables, columns, side
-// bar), wires them, and owns which books are selected. What each room does is its own file's
-// affair.
+// bar, filter bar, commands, toolbar), wires them, and owns which books are selected. What each
+// room does is its own file's affair.
 
 #pragma once
 
 #include "document/BookListWindow.h"
 #include "listwindow/BookCommands.h"
+#include "listwindow/CommandTable.h"
 #include "listwindow/engine/ListEngine.h"
+#include "listwindow/GroupCommands.h"
 #include "platform/widgets/WindowController.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
@@ -23,12 +26,18 @@ class BookListWindow;
 
 namespace tomely {
 
+class BookDrag;
 class BookListDocument;
 class BookTableModel;
 class BookTableView;
 class ColumnLayout;
 class CommandActions;
+class CommandToolbar;
+class CustomizeListController;
+class EmptyList;
+class FilterBar;
 class GroupSidebar;
+class HeaderMenu;
 
 class BookListWindowController : public WindowController, public BookListWindow {
     Q_OBJECT
@@ -82,7 +91,12 @@ public:
 
 private:
     void buildBookTable();
+    void buildSidebar();
+    void buildToolbar();
+    void sharePanes();
     void windowDidLoad();
+    void connectRooms();
+    void connectCommands();
     void startupTimer();
     void restoreLayout();
     void windowLayoutChanged();
@@ -91,25 +105,31 @@ private:
     void reloadTable();
     void bookListSelectionDidChange();
     void showStatus();
+    void perform(CommandId id);
+    void clickedCustomizeList();
+    void clickedCustomizeToolbar();
+    void showBookMenu(QPoint place);
     void updateCommands();
-
-    /// The row that commands are about: the current one of the selected rows; -1 when none is.
-    int selectedRow() const;
-
-    /// The key of the book in selectedRow(), then those of the other selected rows from the top.
-    QStringList selectedKeys() const;
+    QStringList selectedBookKeys() const;
 
     BookListDocument& m_document;
     std::unique_ptr<Ui::BookListWindow> m_ui;
+    ListWindowServices m_services;
     ListEngine m_engine;
     BookTableView* m_bookTable = nullptr; // of m_ui
-    QLabel* m_emptyText = nullptr; // in the list's place while no book is shown
+    EmptyList* m_emptyList = nullptr; // in the list's place while no book is shown
     QLabel* m_idStatusText = nullptr;
+    FilterBar* m_filterBar = nullptr; // of the toolbar
+    CommandToolbar* m_toolbar = nullptr; // of the window
     std::unique_ptr<BookTableModel> m_bookModel;
     std::unique_ptr<ColumnLayout> m_columns;
+    std::unique_ptr<HeaderMenu> m_headerMenu;
+    std::unique_ptr<BookDrag> m_bookDrag;
     std::unique_ptr<GroupSidebar> m_sidebar;
     BookCommands m_commands;
+    std::unique_ptr<GroupCommands> m_groupCommands;
     std::unique_ptr<CommandActions> m_actions;
+    QPointer<CustomizeListController> m_customizeListController; // owned by the window
     QTimer m_startupTimer;
     int m_startupTimerCounter = 0;
     bool m_bShowWindowCalled = false;

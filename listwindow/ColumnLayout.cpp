@@ -14,7 +14,7 @@ namespace tomely {
 
 namespace {
 
-TomelyTableHeaderView& installHeader(QTableView& table)
+TomelyTableHeaderView& configureTableHeaderBackground(QTableView& table)
 {
     auto* const header = new TomelyTableHeaderView(&table);
     header->setSectionsClickable(true);
@@ -35,7 +35,7 @@ TomelyTableHeaderView& installHeader(QTableView& table)
 ColumnLayout::ColumnLayout(QTableView& table, BookTableModel& model, BookListDocument& document)
     : m_model(model)
     , m_document(document)
-    , m_header(installHeader(table))
+    , m_header(configureTableHeaderBackground(table))
 {
     connect(
         &m_header, &TomelyTableHeaderView::layoutChangedByUser, this, &ColumnLayout::changedByUser);
@@ -74,6 +74,11 @@ void ColumnLayout::shareWidthEvenly(int available)
     updateCurrentColumnInfo();
 }
 
+ColumnEntry& ColumnLayout::recordOf(int column)
+{
+    return m_document.getListColumns().find(m_model.record(column).getKey())->second;
+}
+
 int ColumnLayout::shownCount() const
 {
     return m_header.count() - m_header.hiddenSectionCount();
@@ -90,8 +95,7 @@ void ColumnLayout::updateCurrentColumnInfo()
         const int column = m_header.logicalIndex(visual);
         if (m_header.isSectionHidden(column))
             continue;
-        ColumnEntry& record =
-            m_document.getListColumns().find(m_model.record(column).getKey())->second;
+        ColumnEntry& record = recordOf(column);
         record.setPosition(position++);
         record.setWidth(m_header.sectionSize(column));
     }
@@ -102,12 +106,10 @@ bool ColumnLayout::columnsSelectionChanged()
     const qint32 sortColumn = SortField::of(m_document.getSortField()).columnKey;
     bool hidSortColumn = false;
     for (int column = 0; column < m_model.columnCount(); ++column) {
-        ColumnEntry& record =
-            m_document.getListColumns().find(m_model.record(column).getKey())->second;
+        ColumnEntry& record = recordOf(column);
         if (record.getPosition() == positionToAdd) {
-            const int place = shownCount();
             showColumn(column, m_header.count() - 1, 0);
-            record.setPosition(place);
+            record.setPosition(shownCount() - 1);
         } else if (record.getPosition() == positionToRemove) {
             m_header.hideSection(column);
             record.setPosition(ColumnEntry::hidden);
@@ -119,10 +121,7 @@ bool ColumnLayout::columnsSelectionChanged()
 
 void ColumnLayout::updateColumnName(const ColumnEntry& column)
 {
-    for (int index = 0; index < m_model.columnCount(); ++index) {
-        if (m_model.record(index).getKey() == column.getKey())
-            m_model.columnRenamed(index);
-    }
+    m_model.columnRenamed(m_model.columnOfRecord(column));
 }
 
 void ColumnLayout::updateSortStatus()

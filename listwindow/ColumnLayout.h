@@ -61,6 +61,7 @@ Q_SIGNALS:
 
 private:
     void showColumn(int column, int place, int width);
+    ColumnEntry& recordOf(int column);
     int shownCount() const;
 
     BookTableModel& m_model;

@@ -1,5 +1,5 @@
 // The commands of the main window as a table: what they are called, which keys they have and when
-// they can be given. Menus are built from it; what a command does is not its business.
+// they can be given. Menus and toolbar are built from it; what a command does is not its business.
 
 #pragma once
 
@@ -11,10 +11,25 @@
 
 namespace tomely {
 
-enum class CommandId { AddBook, EditBook, DeleteBook, ScaleAllImages, RemoveAllImages };
+enum class CommandId {
+    AddBook,
+    EditBook,
+    DeleteBook,
+    RemoveFromGroup,
+    ScaleAllImages,
+    RemoveAllImages,
+    AddGroup,
+    RenameGroup,
+    DeleteGroup,
+    CustomizeGroups,
+    CustomizeList,
+    CustomizeToolbar,
+    Find,
+    ClearFilter,
+};
 
-/// What a command needs before it can be given.
-enum class EnabledWhen { Always, BookSelected };
+/// What a command needs before it can be given. A group is one other than the library.
+enum class EnabledWhen { Always, BookSelected, GroupSelected, BookAndGroupSelected };
 
 /// Where a command's keys mean it.
 enum class KeyScope {
@@ -26,7 +41,7 @@ struct Command {
     CommandId id = CommandId::AddBook;
     QLatin1StringView name; // of its action
     const char* text = ""; // in menus, untranslated
-    QLatin1StringView icon; // of the desktop's theme; may be empty
+    QLatin1StringView icon; // of resources/icons; may be empty
     QList<QKeySequence> keys;
     KeyScope keyScope = KeyScope::Window;
     EnabledWhen enabledWhen = EnabledWhen::Always;
@@ -40,6 +55,7 @@ const Command& command(CommandId id);
 /// What is selected in the window, as far as commands depend on it.
 struct CommandContext {
     bool hasSelectedBook = false;
+    bool hasSelectedGroup = false; // other than the library
 };
 
 bool enableOption(const Command& command, const CommandContext& context);

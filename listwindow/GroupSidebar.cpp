@@ -64,6 +64,12 @@ bool GroupSidebar::groupsChanged()
     return m_nSelectedGroupKey != before;
 }
 
+void GroupSidebar::startNaming()
+{
+    if (m_nSelectedGroupKey != 0)
+        m_table.startEditing(m_model->rowOfGroupKey(m_nSelectedGroupKey));
+}
+
 void GroupSidebar::endGroupNameEditting()
 {
     m_table.endEditing();
@@ -74,10 +80,10 @@ void GroupSidebar::bookGroupSelectionDidChange()
 {
     if (m_bReloadingGroups)
         return;
-    const QModelIndexList rows = m_table.selectionModel()->selectedRows();
-    if (rows.isEmpty())
+    const int row = m_table.selectedRow();
+    if (row < 0)
         return selectGroup(m_nSelectedGroupKey); // a group is always selected
-    const qint32 groupKey = m_model->groupKeyOfRow(rows.first().row());
+    const qint32 groupKey = m_model->groupKeyOfRow(row);
     if (groupKey == m_nSelectedGroupKey)
         return;
     m_nSelectedGroupKey = groupKey;

@@ -35,6 +35,10 @@ public:
     /// selected, or the one above when it was the last. True when another group is selected now.
     bool groupsChanged();
 
+    /// Lets the name of the selected group be typed, with its text selected; nothing happens for
+    /// the library.
+    void startNaming();
+
     /// Takes over a name that is being typed.
     void endGroupNameEditting();
 

@@ -54,7 +54,7 @@ int GroupTableModel::rowCount(const QModelIndex& parent) const
 
 int GroupTableModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : ColumnCount;
+    return parent.isValid() ? 0 : GroupNameTable::ColumnCount;
 }
 
 QVariant GroupTableModel::data(const QModelIndex& index, int role) const
@@ -64,6 +64,8 @@ QVariant GroupTableModel::data(const QModelIndex& index, int role) const
     const Row& row = m_rows.at(static_cast<std::size_t>(index.row()));
     if (role == Qt::AccessibleTextRole)
         return row.name;
+    if (role == KeyRole)
+        return row.key;
     if (index.column() == IconColumn)
         return role == Qt::DecorationRole
             ? QVariant(index.row() == libraryRow ? m_libraryIcon : m_groupIcon)

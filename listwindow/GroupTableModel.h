@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "document/widgets/GroupNameTable.h"
+
 #include <QAbstractTableModel>
 #include <QIcon>
 
@@ -16,7 +18,13 @@ class GroupTableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    enum Column { IconColumn = 0, NameColumn = 1, ColumnCount = 2 };
+    enum Column {
+        IconColumn = GroupNameTable::FirstColumn,
+        NameColumn = GroupNameTable::NameColumn
+    };
+
+    /// The key text of a row's group; null for the library.
+    static constexpr int KeyRole = Qt::UserRole;
 
     static constexpr int libraryRow = 0;
 

@@ -1,11 +1,30 @@
 #include "listwindow/TomelyTableHeaderView.h"
 
+#include <QMouseEvent>
+#include <QPainter>
+
 namespace tomely {
 
 TomelyTableHeaderView::TomelyTableHeaderView(QWidget* parent) : QHeaderView(Qt::Horizontal, parent)
 {
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     connect(this, &QHeaderView::sectionMoved, this, &TomelyTableHeaderView::noteChange);
     connect(this, &QHeaderView::sectionResized, this, &TomelyTableHeaderView::noteChange);
+}
+
+QSize TomelyTableHeaderView::sizeHint() const
+{
+    // The toolkit's header vanishes with its last column, and what can be done with it vanishes,
+    // too.
+    const int height = count() > 0 ? sectionSizeFromContents(0).height() : 0;
+    return QHeaderView::sizeHint().expandedTo({0, height});
+}
+
+void TomelyTableHeaderView::paintEvent(QPaintEvent* event)
+{
+    // A style may leave parts of a header unpainted.
+    QPainter(viewport()).fillRect(event->rect(), palette().window());
+    QHeaderView::paintEvent(event);
 }
 
 void TomelyTableHeaderView::noteChange()
@@ -15,7 +34,8 @@ void TomelyTableHeaderView::noteChange()
 
 void TomelyTableHeaderView::mousePressEvent(QMouseEvent* event)
 {
-    m_isDragging = true;
+    // No other button drags, and the release of one that opens a menu never comes here.
+    m_isDragging = event->button() == Qt::LeftButton;
     m_changed = false;
     QHeaderView::mousePressEvent(event);
 }

@@ -1,5 +1,6 @@
-// The header of the book table. It can tell a column that the person moved or resized from one that
-// the program did, which the toolkit's own signals cannot.
+// The header of the book table: opaque, and there even when no column is. It can tell a column that
+// the person moved or resized from one that the program did, which the toolkit's own signals
+// cannot.
 
 #pragma once
 
@@ -13,11 +14,15 @@ class TomelyTableHeaderView : public QHeaderView {
 public:
     explicit TomelyTableHeaderView(QWidget* parent = nullptr);
 
+    /// As high as a heading, whether or not a column is shown.
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// The person dragged a column, or its edge, to another place.
     void layoutChangedByUser();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -52,4 +52,12 @@ inline constexpr QLatin1StringView LookupPageHost{"Lookup/PageHost"};
 /// Text: key for the records of volumes, when they are refused without one; may be absent.
 inline constexpr QLatin1StringView LookupServiceKey{"Lookup/ServiceKey"};
 
+// The section [Toolbar]: the toolbar of the main windows.
+
+/// List of texts: identifiers of its items from left to right; absent is the default set, and an
+/// empty text is a toolbar without items.
+inline constexpr QLatin1StringView ToolbarItems{"Toolbar/Items"};
+/// Text: "iconAndText", "iconOnly" or "textOnly"; anything else is the first.
+inline constexpr QLatin1StringView ToolbarDisplay{"Toolbar/Display"};
+
 } // namespace tomely::PreferenceKeys

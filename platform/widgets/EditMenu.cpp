@@ -135,7 +135,7 @@ private:
 
 } // namespace
 
-void addEditMenu(QMenuBar& menuBar)
+QMenu& addEditMenu(QMenuBar& menuBar)
 {
     QMenu& menu = *menuBar.addMenu(QCoreApplication::translate("EditMenu", "&Edit"));
     menu.setObjectName("editMenu"_L1);
@@ -157,6 +157,7 @@ void addEditMenu(QMenuBar& menuBar)
         if (item.separatorAfter)
             menu.addSeparator();
     }
+    return menu;
 }
 
 } // namespace tomely

@@ -2,6 +2,7 @@
 
 #include "document/BookEditorWindow.h"
 #include "document/BookListDocument.h"
+#include "listwindow/ToolbarConfiguration.h"
 #include "model/Picture.h"
 #include "platform/UserDefaults.h"
 #include "tests/support/BookSamples.h"
@@ -16,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace tomely;
+
+using BookCommand = void (BookCommands::*)();
 
 namespace {
 
@@ -87,6 +90,7 @@ private:
     FakeAlerts m_alerts;
     QTemporaryDir m_folder;
     UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
+    ToolbarConfiguration m_toolbar{m_defaults};
     QWidget m_window;
     FakeBookListWindow* m_list = nullptr;
     std::unique_ptr<BookListDocument> m_document;
@@ -104,7 +108,7 @@ void BookCommandsTest::init()
     m_newFrames.clear();
     m_alerts.sheets.clear();
     m_commands = std::make_unique<BookCommands>(*m_document,
-        ListWindowServices{m_alerts, m_defaults,
+        ListWindowServices{m_alerts, m_defaults, m_toolbar,
             [this](BookListDocument& document, QRect frame) {
                 m_newFrames.append(frame);
                 return std::make_unique<FakeEditor>(document, QString());
@@ -133,7 +137,7 @@ QStringList BookCommandsTest::windowKeys() const
 
 void BookCommandsTest::opensAnEditorForANewBook()
 {
-    m_commands->perform(CommandId::AddBook);
+    m_commands->clickedAdd();
     m_commands->addNewBook({10, 20, 300, 400});
     QCOMPARE(m_newFrames, QList<QRect>({QRect(), QRect(10, 20, 300, 400)}));
     QCOMPARE(windowKeys(), QStringList({u"new"_s, u"new"_s}));
@@ -146,7 +150,7 @@ void BookCommandsTest::opensAnEditorForANewBook()
 void BookCommandsTest::opensAnEditorForTheSelectedBook()
 {
     m_selected = {u"3"_s, u"2"_s};
-    m_commands->perform(CommandId::EditBook);
+    m_commands->clickedEdit();
     QCOMPARE(windowKeys(), QStringList{u"3"_s});
 }
 
@@ -181,23 +185,26 @@ void BookCommandsTest::editsNothingWithoutASelection()
 
 void BookCommandsTest::endsGroupNamingFirst_data()
 {
-    QTest::addColumn<int>("id");
-    for (const Command& command : commandTable())
-        QTest::newRow(command.name.data()) << static_cast<int>(command.id);
+    QTest::addColumn<BookCommand>("command");
+    QTest::newRow("add") << &BookCommands::clickedAdd;
+    QTest::newRow("edit") << &BookCommands::clickedEdit;
+    QTest::newRow("delete") << &BookCommands::clickedDelete;
+    QTest::newRow("scale all pictures") << &BookCommands::clickedScaleAllImages;
+    QTest::newRow("remove all pictures") << &BookCommands::clickedRemoveAllImages;
 }
 
 void BookCommandsTest::endsGroupNamingFirst()
 {
-    QFETCH(const int, id);
+    QFETCH(const BookCommand, command);
     m_selected = {u"3"_s};
-    m_commands->perform(static_cast<CommandId>(id));
+    (*m_commands.*command)();
     QCOMPARE(m_list->calls.first(), u"endGroupNameEditting"_s);
 }
 
 void BookCommandsTest::namesTheOneBookToDelete()
 {
     m_selected = {u"2"_s};
-    m_commands->perform(CommandId::DeleteBook);
+    m_commands->clickedDelete();
     QCOMPARE(m_alerts.sheets.size(), 1);
     QCOMPARE(m_alerts.sheets.first().window, &m_window);
     const Alert& alert = m_alerts.sheets.first().alert;
@@ -272,7 +279,7 @@ void BookCommandsTest::removesAllPicturesOnYes()
         m_document->getBookEntry(u"2")->setImageData(slot, jpeg({300, 400}));
     m_document->getBookEntry(u"4")->setImageData(5, "no picture");
     const quint64 untouched = m_document->getBookEntry(u"1")->changeStamp();
-    m_commands->perform(CommandId::RemoveAllImages);
+    m_commands->clickedRemoveAllImages();
     QCOMPARE(m_alerts.sheets.first().alert.informativeText, u"Remove images from all books?"_s);
     QCOMPARE(m_alerts.sheets.first().alert.buttons, QStringList({u"Yes"_s, u"No"_s}));
     m_list->calls.clear();
@@ -298,7 +305,7 @@ void BookCommandsTest::scalesAllPicturesOnYes()
     m_document->getBookEntry(u"2")->setImageData(1, large);
     m_document->getBookEntry(u"2")->setImageData(3, fits);
     m_document->getBookEntry(u"4")->setImageData(4, large);
-    m_commands->perform(CommandId::ScaleAllImages);
+    m_commands->clickedScaleAllImages();
     QCOMPARE(m_alerts.sheets.first().alert.informativeText,
         u"Scale all images to the book entry display size?"_s);
     m_list->calls.clear();

@@ -2,6 +2,7 @@
 
 #include "document/CollectionFile.h"
 #include "listwindow/BookTableModel.h"
+#include "listwindow/ToolbarConfiguration.h"
 #include "platform/UserDefaults.h"
 #include "platform/widgets/ImageView.h"
 #include "tests/support/FakeAlerts.h"
@@ -88,6 +89,7 @@ private:
     FakeAlerts m_alerts;
     QTemporaryDir m_folder;
     UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
+    ToolbarConfiguration m_toolbar{m_defaults};
     std::unique_ptr<BookListDocument> m_document;
     BookListWindowController* m_controller = nullptr; // owned by the document
 };
@@ -97,7 +99,7 @@ void BookListWindowControllerTest::init()
     m_document = std::make_unique<BookListDocument>(
         BookListServices{nullptr, nullptr, [this](BookListDocument& document) {
                              auto window = std::make_unique<BookListWindowController>(
-                                 document, ListWindowServices{m_alerts, m_defaults, {}, {}});
+                                 document, ListWindowServices{m_alerts, m_defaults, m_toolbar, {}, {}});
                              m_controller = window.get();
                              document.addWindowController(std::move(window));
                              return m_controller;

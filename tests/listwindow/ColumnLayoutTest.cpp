@@ -1,14 +1,34 @@
 #include "listwindow/ColumnLayout.h"
 
 #include "listwindow/BookTableModel.h"
+#include "listwindow/TomelyTableHeaderView.h"
 #include "tests/support/SmallCollection.h"
 
 #include <QHeaderView>
+#include <QImage>
+#include <QProxyStyle>
 #include <QTableView>
 #include <QtTest>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 using namespace tomely;
+
+namespace {
+
+/// Leaves a header's empty part unpainted, as some styles do.
+class BareStyle : public QProxyStyle {
+public:
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget) const override
+    {
+        if (element != CE_HeaderEmptyArea)
+            QProxyStyle::drawControl(element, option, painter, widget);
+    }
+};
+
+} // namespace
 
 class ColumnLayoutTest : public QObject {
     Q_OBJECT
@@ -22,9 +42,15 @@ private Q_SLOTS:
     void hidesColumnsBehindAGap();
     void showsNoColumnsWhenNoneIsFirst();
     void keepsColumnsWideEnoughToRead();
+    void survivesAnyWidth();
+    void centresTheTextsOfCentredColumns();
     void copiesPlacesAndWidthsBack();
     void sharesTheWidthEvenly();
     void appendsAndRemovesColumns();
+    void resolvesMarksOnlyWhenItIsAsked();
+    void addsAColumnAtTheRightWherePeopleLeftIt();
+    void movesAShownColumnThatIsAddedAgain();
+    void isEmptyAfterItsLastColumn();
     void tellsWhenTheSortColumnIsHidden();
     void marksTheSortColumn_data();
     void marksTheSortColumn();
@@ -35,6 +61,8 @@ private Q_SLOTS:
     void tellsWhenAnEdgeIsDoubleClicked();
     void tellsWhenAColumnIsDragged();
     void saysNothingOfWhatTheProgramDoes();
+    void takesOnlyTheLeftButtonForADrag();
+    void hasAnOpaqueHeader();
 
 private:
     void setUp() { m_layout->setupInitialColumns(); }
@@ -161,6 +189,31 @@ void ColumnLayoutTest::keepsColumnsWideEnoughToRead()
     QCOMPARE(widthOf(0), ColumnLayout::minimumWidth);
 }
 
+void ColumnLayoutTest::survivesAnyWidth()
+{
+    samples::column(*m_document, 0).setWidth(std::numeric_limits<qint32>::max());
+    samples::column(*m_document, 2).setWidth(std::numeric_limits<qint32>::min());
+    setUp();
+    QCOMPARE(shownKeys(), QList<qint32>({0, 2, 28}));
+    QVERIFY(widthOf(0) >= ColumnLayout::minimumWidth);
+    QCOMPARE(widthOf(2), ColumnLayout::defaultWidth);
+    QCOMPARE(samples::column(*m_document, 0).getWidth(), widthOf(0));
+}
+
+void ColumnLayoutTest::centresTheTextsOfCentredColumns()
+{
+    samples::showColumns(*m_document, {0, 6});
+    setUp();
+    for (const auto& [key, isCentred] : {std::pair(0, false), std::pair(6, true)}) {
+        const int column = m_model->columnOfKey(key);
+        const QModelIndex cell = m_model->index(0, column);
+        QCOMPARE(cell.data(Qt::TextAlignmentRole).toInt() == Qt::AlignCenter, isCentred);
+        const QVariant heading = m_model->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
+        QCOMPARE(heading.toInt() == Qt::AlignCenter, isCentred);
+        QVERIFY(!(cell.flags() & Qt::ItemIsEditable));
+    }
+}
+
 void ColumnLayoutTest::copiesPlacesAndWidthsBack()
 {
     setUp();
@@ -208,6 +261,71 @@ void ColumnLayoutTest::appendsAndRemovesColumns()
     QCOMPARE(samples::column(*m_document, 2).getPosition(), ColumnEntry::hidden);
     m_layout->updateCurrentColumnInfo();
     QCOMPARE(samples::column(*m_document, shown.last()).getPosition(), 3);
+}
+
+void ColumnLayoutTest::resolvesMarksOnlyWhenItIsAsked()
+{
+    setUp();
+    samples::column(*m_document, 84).setPosition(ColumnLayout::positionToAdd);
+    samples::column(*m_document, 2).setPosition(ColumnLayout::positionToRemove);
+    m_layout->updateSortStatus();
+    QCOMPARE(shownKeys(), QList<qint32>({0, 2, 28}));
+    QCOMPARE(samples::column(*m_document, 84).getPosition(), ColumnLayout::positionToAdd);
+    m_layout->columnsSelectionChanged();
+    m_layout->columnsSelectionChanged(); // nothing is left to do
+    QCOMPARE(shownKeys(), QList<qint32>({0, 28, 84}));
+    QCOMPARE(samples::column(*m_document, 84).getPosition(), 2);
+}
+
+void ColumnLayoutTest::addsAColumnAtTheRightWherePeopleLeftIt()
+{
+    setUp();
+    header().moveSection(header().visualIndex(m_model->columnOfKey(0)), 2);
+    const QList<qint32> moved = shownKeys();
+    QCOMPARE(moved, QList<qint32>({2, 28, 0}));
+    samples::column(*m_document, 26).setPosition(ColumnLayout::positionToAdd);
+    m_layout->columnsSelectionChanged();
+    QCOMPARE(shownKeys(), moved + QList<qint32>{26});
+    // Gone and back again it is at the right, too, and no longer as wide as it was.
+    header().resizeSection(m_model->columnOfKey(2), 250);
+    samples::column(*m_document, 2).setPosition(ColumnLayout::positionToRemove);
+    m_layout->columnsSelectionChanged();
+    samples::column(*m_document, 2).setPosition(ColumnLayout::positionToAdd);
+    m_layout->columnsSelectionChanged();
+    QCOMPARE(shownKeys(), QList<qint32>({28, 0, 26, 2}));
+    QCOMPARE(widthOf(2), ColumnLayout::defaultWidth);
+}
+
+void ColumnLayoutTest::movesAShownColumnThatIsAddedAgain()
+{
+    setUp();
+    samples::column(*m_document, 0).setPosition(ColumnLayout::positionToAdd);
+    m_layout->columnsSelectionChanged();
+    QCOMPARE(shownKeys(), QList<qint32>({2, 28, 0}));
+    QCOMPARE(samples::column(*m_document, 0).getPosition(), 2);
+}
+
+void ColumnLayoutTest::isEmptyAfterItsLastColumn()
+{
+    m_document->setSortField(3);
+    setUp();
+    m_table->show();
+    const int height = header().height();
+    for (const qint32 key : {0, 2, 28})
+        samples::column(*m_document, key).setPosition(ColumnLayout::positionToRemove);
+    QVERIFY(m_layout->columnsSelectionChanged());
+    m_layout->updateSortStatus();
+    QCOMPARE(shownKeys(), QList<qint32>());
+    QCOMPARE(m_layout->firstColumnKey(), -1);
+    QCOMPARE(m_document->getSortField(), 3);
+    // The header does not jump.
+    QCoreApplication::processEvents();
+    QCOMPARE(header().height(), height);
+    m_layout->updateCurrentColumnInfo();
+    samples::column(*m_document, 28).setPosition(ColumnLayout::positionToAdd);
+    m_layout->columnsSelectionChanged();
+    QCOMPARE(shownKeys(), QList<qint32>{28});
+    QCOMPARE(samples::column(*m_document, 28).getPosition(), 0);
 }
 
 void ColumnLayoutTest::tellsWhenTheSortColumnIsHidden()
@@ -341,6 +459,35 @@ void ColumnLayoutTest::saysNothingOfWhatTheProgramDoes()
     m_layout->columnsSelectionChanged();
     QCoreApplication::processEvents();
     QVERIFY(changed.isEmpty());
+}
+
+void ColumnLayoutTest::takesOnlyTheLeftButtonForADrag()
+{
+    setUp();
+    m_table->show();
+    QSignalSpy changed(m_layout.get(), &ColumnLayout::changedByUser);
+    QTest::mousePress(header().viewport(), Qt::RightButton, {}, middleOf(2));
+    header().resizeSection(m_model->columnOfKey(0), 300); // the program, meanwhile
+    QTest::mouseRelease(header().viewport(), Qt::RightButton, {}, middleOf(2));
+    QVERIFY(changed.isEmpty());
+}
+
+void ColumnLayoutTest::hasAnOpaqueHeader()
+{
+    QCOMPARE(header().metaObject(), &TomelyTableHeaderView::staticMetaObject);
+    setUp();
+    BareStyle style;
+    header().setStyle(&style);
+    QPalette palette = header().palette();
+    palette.setColor(QPalette::Window, Qt::green);
+    header().setPalette(palette);
+    m_table->show();
+    QWidget& viewport = *header().viewport();
+    QImage image(viewport.size(), QImage::Format_RGB32);
+    image.fill(Qt::red);
+    viewport.render(&image, {}, {}, QWidget::DrawChildren); // no background of the toolkit's
+    QCOMPARE(image.pixelColor(image.width() - 5, image.height() / 2), QColor(Qt::green));
+    m_table.reset();
 }
 
 QTEST_MAIN(ColumnLayoutTest)

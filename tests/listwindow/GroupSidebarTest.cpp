@@ -41,6 +41,12 @@ private Q_SLOTS:
     void takesOverAnUnfinishedName();
     void renamesTheEditedRowWhenAnotherIsClicked();
     void survivesItsEndDuringARename();
+    void beginsTheNameOfTheSelectedGroup();
+    void keepsTheSelectionAtTheKeysThatEndAName_data();
+    void keepsTheSelectionAtTheKeysThatEndAName();
+    void asksForAMenu_data();
+    void asksForAMenu();
+    void asksForAMenuByKey();
 
 private:
     int rowOf(qint32 key) const { return m_model->rowOfGroupKey(key); }
@@ -399,6 +405,77 @@ void GroupSidebarTest::survivesItsEndDuringARename()
     m_sidebar.reset();
     m_table.reset();
     QCOMPARE(nameOf(1), u"Fiction"_s);
+}
+
+void GroupSidebarTest::beginsTheNameOfTheSelectedGroup()
+{
+    m_sidebar->startNaming();
+    QVERIFY(!editor()); // the library has its name
+    m_sidebar->selectGroup(2);
+    m_sidebar->startNaming();
+    QVERIFY(editor());
+    QCOMPARE(editor()->selectedText(), u"Non Fiction"_s);
+}
+
+void GroupSidebarTest::keepsTheSelectionAtTheKeysThatEndAName_data()
+{
+    takesOverANameByKey_data();
+}
+
+void GroupSidebarTest::keepsTheSelectionAtTheKeysThatEndAName()
+{
+    QFETCH(const Qt::Key, key);
+    m_sidebar->selectGroup(2);
+    m_table->setFocus();
+    QSignalSpy selected(m_sidebar.get(), &GroupSidebar::groupSelected);
+    QTest::keyClick(m_table.get(), key);
+    QCOMPARE(m_sidebar->selectedGroupKey(), 2);
+    QCOMPARE(selectedRow(), 2);
+    QVERIFY(selected.isEmpty());
+}
+
+void GroupSidebarTest::asksForAMenu_data()
+{
+    QTest::addColumn<int>("row"); // -1 for below the rows
+    QTest::addColumn<bool>("isOnGroup");
+    QTest::addColumn<int>("selected");
+    QTest::newRow("on a group") << 2 << true << 2;
+    QTest::newRow("on the library") << 0 << false << 0;
+    QTest::newRow("below the rows") << -1 << false << 3;
+}
+
+void GroupSidebarTest::asksForAMenu()
+{
+    QFETCH(const int, row);
+    QFETCH(const bool, isOnGroup);
+    QFETCH(const int, selected);
+    m_sidebar->selectGroup(3);
+    const QSignalSpy asked(m_table.get(), &GroupTableView::contextMenuRequested);
+    const QPoint place = row < 0
+        ? QPoint(100, 290)
+        : m_table->visualRect(m_model->index(row, GroupTableModel::IconColumn)).center();
+    const QPoint global = m_table->viewport()->mapToGlobal(place);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, global);
+    QCoreApplication::sendEvent(m_table->viewport(), &event);
+    QCOMPARE(asked.size(), 1);
+    QCOMPARE(asked.first().at(0).toPoint(), global);
+    QCOMPARE(asked.first().at(1).toBool(), isOnGroup);
+    QCOMPARE(selectedRow(), selected);
+    QCOMPARE(m_sidebar->selectedGroupKey(), selected);
+}
+
+void GroupSidebarTest::asksForAMenuByKey()
+{
+    m_sidebar->selectGroup(2);
+    const QSignalSpy asked(m_table.get(), &GroupTableView::contextMenuRequested);
+    // Wherever the mouse is, the menu is about the selected row and comes up there.
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {100, 290}, {700, 700});
+    QCoreApplication::sendEvent(m_table->viewport(), &event);
+    QCOMPARE(asked.size(), 1);
+    const QPoint place = m_table->viewport()->mapFromGlobal(asked.first().at(0).toPoint());
+    QCOMPARE(m_table->indexAt(place).row(), 2);
+    QCOMPARE(asked.first().at(1).toBool(), true);
+    QCOMPARE(selectedRow(), 2);
 }
 
 QTEST_MAIN(GroupSidebarTest)

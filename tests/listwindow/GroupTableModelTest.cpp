@@ -101,6 +101,11 @@ void GroupTableModelTest::findsGroupsByTheirKeys()
         QCOMPARE(m_model->groupKeyOfRow(row), 0);
         QVERIFY(m_model->groupKeyTextOfRow(row).isNull());
     }
+    const auto keyAt = [this](int row) {
+        return m_model->index(row, 0).data(GroupTableModel::KeyRole).toString();
+    };
+    QCOMPARE(keyAt(1), u"3"_s);
+    QVERIFY(keyAt(0).isNull());
 }
 
 void GroupTableModelTest::showsAPictureInFrontOfEachName()

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void answersKeysWhateverTheMenuShowedLast();
     void worksOnTheLineOfAComboBox();
     void worksOnWhatHadTheFocusBeforeTheMenuBar();
+    void takesFurtherItems();
 
 private:
     QAction& action(const char* name) const
@@ -68,8 +69,7 @@ void EditMenuTest::init()
     m_combo = new QComboBox(contents);
     m_combo->setEditable(true);
     m_window->setCentralWidget(contents);
-    addEditMenu(*m_window->menuBar());
-    m_menu = m_window->findChild<QMenu*>(u"editMenu"_s);
+    m_menu = &addEditMenu(*m_window->menuBar());
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
@@ -181,6 +181,17 @@ void EditMenuTest::worksOnWhatHadTheFocusBeforeTheMenuBar()
     QCOMPARE(enabled(), QStringList({u"undo"_s, u"selectAll"_s}));
     action("selectAll").trigger();
     QCOMPARE(m_line->selectedText(), u"Emma"_s);
+}
+
+void EditMenuTest::takesFurtherItems()
+{
+    QCOMPARE(m_menu->objectName(), u"editMenu"_s);
+    QAction* const further = m_menu->addAction(u"Further"_s);
+    QVERIFY(m_menu->actions().endsWith(further));
+    m_button->setFocus();
+    Q_EMIT m_menu->aboutToShow();
+    QVERIFY(further->isEnabled()); // its state is its own affair
+    Q_EMIT m_menu->aboutToHide();
 }
 
 QTEST_MAIN(EditMenuTest)

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSplitter>
@@ -178,7 +179,13 @@ bool CollectionWindow::settle() const
 
 void CollectionWindow::choose(const QString& action) const
 {
-    window().findChild<QAction*>(action)->trigger();
+    for (const QMenu* const menu : window().findChildren<QMenu*>()) {
+        for (QAction* const item : menu->actions()) {
+            if (item->objectName() == action)
+                return item->trigger();
+        }
+    }
+    qFatal("no menu has the item %s", qPrintable(action));
 }
 
 // An editor

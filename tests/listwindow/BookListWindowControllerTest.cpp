@@ -98,8 +98,8 @@ void BookListWindowControllerTest::init()
 {
     m_document = std::make_unique<BookListDocument>(
         BookListServices{nullptr, nullptr, [this](BookListDocument& document) {
-                             auto window = std::make_unique<BookListWindowController>(
-                                 document, ListWindowServices{m_alerts, m_defaults, m_toolbar, {}, {}});
+                             auto window = std::make_unique<BookListWindowController>(document,
+                                 ListWindowServices{m_alerts, m_defaults, m_toolbar, {}, {}});
                              m_controller = window.get();
                              document.addWindowController(std::move(window));
                              return m_controller;

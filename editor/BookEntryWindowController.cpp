@@ -13,9 +13,9 @@
 #include "model/TextTrimming.h"
 #include "platform/PreferenceKeys.h"
 #include "platform/UserDefaults.h"
+#include "platform/widgets/Sheets.h"
 #include "platform/widgets/Waiting.h"
 
-#include <QDialog>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -343,8 +343,7 @@ void BookEntryWindowController::isbnChanged()
 {
     // A question or the sheet of the look-up comes first (the ISBN is looked at again when the
     // window is the active one again), and a window that goes starts nothing.
-    const auto sheets = window()->findChildren<QDialog*>();
-    if (!m_isClosed && !Waiting::isWaiting() && std::ranges::none_of(sheets, &QWidget::isVisible))
+    if (!m_isClosed && !Waiting::isWaiting() && !hasOpenSheet(*window()))
         m_lookup->isbnChanged();
 }
 
@@ -367,6 +366,21 @@ void BookEntryWindowController::endEditing()
 
 // Saving and closing
 
+/// What the person ticked here is stored, and what was done with the book in the main window since
+/// the editor opened is kept.
+GroupMembership BookEntryWindowController::groupsToStore(GroupMembership present) const
+{
+    for (const GroupMembership::Entry& group : m_dSelectedGroups) {
+        if (!m_openedGroups.contains(group.key))
+            present.insert(group.key, group.value);
+    }
+    for (const GroupMembership::Entry& group : m_openedGroups) {
+        if (!m_dSelectedGroups.contains(group.key))
+            present.remove(group.key);
+    }
+    return present;
+}
+
 bool BookEntryWindowController::saveEntry(const QObject* sender)
 {
     if (m_isClosed || !m_ui->m_idSaveButton->isEnabled() || Waiting::isWaiting())
@@ -376,10 +390,11 @@ bool BookEntryWindowController::saveEntry(const QObject* sender)
     std::unique_ptr<BookEntry> added;
     if (!book) {
         added = std::make_unique<BookEntry>();
+        added->setSelectedGroups(m_openedGroups);
         book = added.get();
     }
     m_form->write(*book);
-    book->setSelectedGroups(m_dSelectedGroups);
+    book->setSelectedGroups(groupsToStore(book->getSelectedGroups()));
     m_wells->write(*book, defaults());
     // A collection that has given away all its numbers takes no book; the editor keeps it then.
     if (added && !m_document.addBook(std::move(added)))

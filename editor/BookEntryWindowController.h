@@ -126,6 +126,7 @@ private:
     UserDefaults& defaults() const { return m_services.lookup.defaults; }
 
     QList<std::pair<CompletingComboBox*, QStringList>> combos() const;
+    GroupMembership groupsToStore(GroupMembership present) const;
     void setSaveEnabled(bool enabled);
 
     BookListDocument& m_document;

@@ -70,27 +70,26 @@ BookEditorWindow* BookCommands::lookupExistingController(const QString& key) con
 void BookCommands::clickedDelete()
 {
     endEditing();
-    m_aBooksToDelete = m_selectedKeys();
-    if (m_aBooksToDelete.isEmpty())
+    const QStringList booksToDelete = m_selectedKeys();
+    if (booksToDelete.isEmpty())
         return;
-    const BookEntry* const book = m_document.getBookEntry(m_aBooksToDelete.front());
-    const QString question = m_aBooksToDelete.size() == 1 && book
+    const BookEntry* const book = m_document.getBookEntry(booksToDelete.front());
+    const QString question = booksToDelete.size() == 1 && book
         ? tr("Are you sure you want to delete '%1'?").arg(book->getTitle())
-        : tr("Are you sure you want to delete %1 books?").arg(m_aBooksToDelete.size());
-    m_services.alerts.beginSheet(
-        &m_window, confirmationAlert(question), [this](int button) { confirmedDelete(button); });
+        : tr("Are you sure you want to delete %1 books?").arg(booksToDelete.size());
+    m_services.alerts.beginSheet(&m_window, confirmationAlert(question),
+        [this, booksToDelete](int button) { confirmedDelete(button, booksToDelete); });
 }
 
-void BookCommands::confirmedDelete(int button)
+void BookCommands::confirmedDelete(int button, const QStringList& booksToDelete)
 {
     if (button != 0)
         return;
-    for (const QString& key : std::as_const(m_aBooksToDelete)) {
+    for (const QString& key : booksToDelete) {
         if (BookEditorWindow* const editor = lookupExistingController(key))
             editor->closeEditor();
     }
-    m_document.deleteBooks(m_aBooksToDelete);
-    m_aBooksToDelete.clear();
+    m_document.deleteBooks(booksToDelete);
     Q_EMIT booksDeleted();
 }
 

@@ -68,7 +68,7 @@ Q_SIGNALS:
 
 private:
     void open(std::unique_ptr<DocumentWindow> editor);
-    void confirmedDelete(int button);
+    void confirmedDelete(int button, const QStringList& booksToDelete);
     void confirmedRemoveAllImages(int button);
     void confirmedScaleAllImages(int button);
     void workOnEachBook(const QString& text, const std::function<void(BookEntry& book)>& work);
@@ -78,7 +78,6 @@ private:
     ListWindowServices m_services;
     QWidget& m_window;
     std::function<QStringList()> m_selectedKeys;
-    QStringList m_aBooksToDelete;
 };
 
 } // namespace tomely

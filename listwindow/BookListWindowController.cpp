@@ -17,8 +17,10 @@
 #include "listwindow/GroupSidebar.h"
 #include "listwindow/HeaderMenu.h"
 #include "listwindow/SingleLineDelegate.h"
+#include "listwindow/ToolbarConfiguration.h"
 #include "listwindow/ui_BookListWindow.h"
 #include "platform/widgets/ScreenFrames.h"
+#include "platform/widgets/Sheets.h"
 #include "platform/widgets/Waiting.h"
 
 #include <QHeaderView>
@@ -37,6 +39,7 @@ namespace tomely {
 
 namespace {
 
+const QString searchItem = u"search"_s; // of the toolbar
 constexpr int rowPadding = 8; // above and below a row's text together
 constexpr int statusMargin = 3;
 constexpr int firstSidebarWidth = 238; // a picture of 218 points and its margins
@@ -167,6 +170,11 @@ void BookListWindowController::connectRooms()
     connect(&m_commands, &BookCommands::booksDeleted, m_bookTable, &QTableView::clearSelection);
     connect(m_filterBar, &FilterBar::filterChanged, this, [this] { refresh(); });
     connect(m_filterBar, &FilterBar::labelChanged, m_toolbar, &CommandToolbar::setSearchLabel);
+    connect(&m_services.toolbar, &ToolbarConfiguration::changed, this, [this] {
+        // A filter that nobody sees must not hide books.
+        if (!m_services.toolbar.items().contains(searchItem) && m_filterBar->isFiltering())
+            m_filterBar->clear();
+    });
 }
 
 void BookListWindowController::connectCommands()
@@ -178,8 +186,11 @@ void BookListWindowController::connectCommands()
             choices.push_back({group->getKey(), group->getGroupName()});
         return choices;
     });
-    connect(m_actions.get(), &CommandActions::addToGroupChosen, m_groupCommands.get(),
-        &GroupCommands::addToGroup);
+    connect(
+        m_actions.get(), &CommandActions::addToGroupChosen, this, [this](const QString& groupKey) {
+            if (takesCommands())
+                m_groupCommands->addToGroup(groupKey);
+        });
     connect(m_bookTable, &BookTableView::rowDoubleClicked, this,
         [this] { perform(CommandId::EditBook); });
     connect(m_bookTable, &QWidget::customContextMenuRequested, this,
@@ -330,8 +341,9 @@ void BookListWindowController::addNewBook(QRect frame)
 
 void BookListWindowController::perform(CommandId id)
 {
-    if (Waiting::isWaiting())
+    if (!takesCommands())
         return;
+    endGroupNameEditting();
     switch (id) {
     case CommandId::AddBook:
         return m_commands.clickedAdd();
@@ -358,23 +370,37 @@ void BookListWindowController::perform(CommandId id)
     case CommandId::CustomizeToolbar:
         return clickedCustomizeToolbar();
     case CommandId::Find:
-        return m_filterBar->focusText();
+        return find();
     case CommandId::ClearFilter:
         return m_filterBar->clear();
     }
 }
 
+/// Commands also come from where no window can keep them out: the desktop's own menus, a screen
+/// reader.
+bool BookListWindowController::takesCommands() const
+{
+    return !Waiting::isWaiting() && !hasOpenSheet(*window());
+}
+
+void BookListWindowController::find()
+{
+    // Who looks for the search wants it in the toolbar again.
+    if (QStringList items = m_services.toolbar.items(); !items.contains(searchItem)) {
+        items.append(searchItem);
+        m_services.toolbar.setItems(items);
+    }
+    m_filterBar->focusText();
+}
+
 void BookListWindowController::clickedCustomizeList()
 {
-    endGroupNameEditting();
-    if (!m_customizeListController)
-        m_customizeListController =
-            new CustomizeListController(*window(), m_document, m_document.getListColumns());
+    m_customizeListController =
+        new CustomizeListController(*window(), m_document, m_document.getListColumns());
 }
 
 void BookListWindowController::clickedCustomizeToolbar()
 {
-    endGroupNameEditting();
     (new CustomizeToolbarDialog(m_services.toolbar, window()))->open();
 }
 

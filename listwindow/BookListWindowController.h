@@ -1,6 +1,5 @@
 // The main window of a collection: builds it from its rooms (list engine, tables, columns, side
-// bar, filter bar, commands, toolbar), wires them, and owns which books are selected. What each
-// room does is its own file's affair.
+// bar, filter bar, commands, toolbar) and wires them. What each room does is its own file's affair.
 
 #pragma once
 
@@ -106,6 +105,8 @@ private:
     void bookListSelectionDidChange();
     void showStatus();
     void perform(CommandId id);
+    bool takesCommands() const;
+    void find();
     void clickedCustomizeList();
     void clickedCustomizeToolbar();
     void showBookMenu(QPoint place);

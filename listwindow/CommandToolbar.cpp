@@ -161,7 +161,7 @@ void CommandToolbar::configurationChanged()
 {
     const ToolbarDisplay display = m_configuration.display();
     setToolButtonStyle(buttonStyle(display));
-    m_searchLabel->setVisible(display == ToolbarDisplay::IconAndText);
+    m_searchLabel->setVisible(display != ToolbarDisplay::IconOnly);
     const QStringList identifiers = m_configuration.items();
     if (identifiers != m_identifiers)
         showItems(identifiers);
@@ -210,6 +210,12 @@ bool CommandToolbar::event(QEvent* event)
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
         keepSearchInSight();
     return isDone;
+}
+
+CommandToolbar::~CommandToolbar()
+{
+    // Its parts lose the focus while they go, and nobody is there any more to take note of it.
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void CommandToolbar::noteLostFocus(QWidget* old)

@@ -40,6 +40,7 @@ public:
     /// or not. The configuration must outlive the toolbar, the actions all use of it.
     CommandToolbar(const CommandActions& actions, ToolbarConfiguration& configuration,
         QWidget& searchView, QWidget* parent = nullptr);
+    ~CommandToolbar() override;
 
     /// The text under the search view, at first that of its item.
     void setSearchLabel(const QString& label);

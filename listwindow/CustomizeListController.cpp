@@ -5,6 +5,7 @@
 #include "listwindow/engine/ColumnComparator.h"
 #include "listwindow/ui_CustomizeList.h"
 #include "platform/widgets/ScreenFrames.h"
+#include "platform/widgets/Waiting.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -124,15 +125,19 @@ void CustomizeListController::windowDidBecomeKey()
 {
     // An editor may have renamed a custom field meanwhile.
     QListWidget& table = *m_ui->m_idTableView;
-    const QString currentKey = table.currentItem()->data(keyRole).toString();
+    const QListWidgetItem* const item = table.currentItem();
+    const QString currentKey = item ? item->data(keyRole).toString() : QString();
     m_aColumns = sortedColumns(m_dSelectedColumns_Original);
     reloadRows();
     const auto current = std::ranges::find(m_aColumns, currentKey, &ColumnEntry::getKey);
-    table.setCurrentRow(static_cast<int>(current - m_aColumns.begin()));
+    if (current != m_aColumns.end())
+        table.setCurrentRow(static_cast<int>(current - m_aColumns.begin()));
 }
 
 void CustomizeListController::ok()
 {
+    if (Waiting::isWaiting())
+        return;
     for (auto& [key, record] : m_dSelectedColumns_Original) {
         const bool isTicked = m_dSelectedColumns.contains(key);
         if (isTicked && !record.isShown())

@@ -288,8 +288,11 @@ void FilterBar::showLabel(const QString& label)
     m_ui->m_idFilter_Text->setPlaceholderText(search);
     m_ui->m_idFilter_Text->setAccessibleName(search);
     m_ui->m_idFilter_CheckedStatusDropDown->setAccessibleName(label);
-    m_ui->m_idFilterDropDown->setToolTip(
-        label.isEmpty() ? tr("Choose what to search") : tr("Choose what to search: %1").arg(label));
+    const QString choose =
+        label.isEmpty() ? tr("Choose what to search") : tr("Choose what to search: %1").arg(label);
+    m_ui->m_idFilterDropDown->setToolTip(choose);
+    m_ui->m_idFilterDropDown->setAccessibleDescription(choose);
+    m_ui->m_idFilterTab->setAccessibleDescription(label);
     Q_EMIT labelChanged(label);
 }
 

@@ -63,7 +63,7 @@ QVariant GroupTableModel::data(const QModelIndex& index, int role) const
         return {};
     const Row& row = m_rows.at(static_cast<std::size_t>(index.row()));
     if (role == Qt::AccessibleTextRole)
-        return row.name;
+        return nameOf(row);
     if (role == KeyRole)
         return row.key;
     if (index.column() == IconColumn)
@@ -71,8 +71,15 @@ QVariant GroupTableModel::data(const QModelIndex& index, int role) const
             ? QVariant(index.row() == libraryRow ? m_libraryIcon : m_groupIcon)
             : QVariant();
     if (role == Qt::DisplayRole || role == Qt::EditRole)
-        return row.name;
+        return nameOf(row);
     return {};
+}
+
+/// A group may have got another name that nobody told: the group manager's stay when it is left.
+QString GroupTableModel::nameOf(const Row& row) const
+{
+    const GroupEntry* const group = row.key.isNull() ? nullptr : m_groups.find(row.key);
+    return group ? group->getGroupName() : row.name;
 }
 
 Qt::ItemFlags GroupTableModel::flags(const QModelIndex& index) const

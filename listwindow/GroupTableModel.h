@@ -61,6 +61,8 @@ private:
         QString name;
     };
 
+    QString nameOf(const Row& row) const;
+
     const GroupDictionary& m_groups;
     std::vector<Row> m_rows; // the library, then m_aSortedGroups: the groups by name
     QIcon m_libraryIcon;

@@ -3,10 +3,10 @@
 #include "listwindow/BookDrag.h"
 #include "listwindow/GroupDrop.h"
 #include "listwindow/GroupTableModel.h"
+#include "platform/widgets/Sheets.h"
 #include "platform/widgets/Waiting.h"
 
 #include <QContextMenuEvent>
-#include <QDialog>
 #include <QHeaderView>
 #include <QMimeData>
 #include <QPainter>
@@ -19,14 +19,6 @@ namespace {
 
 constexpr int betweenRows = 2; // in points: that near to its edge the mouse is not on a row
 constexpr qreal litCorner = 4;
-
-/// True while a sheet is open on the window.
-bool isAsking(const QWidget& window)
-{
-    const auto sheets = window.findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
-    return std::ranges::any_of(
-        sheets, [](const QDialog* sheet) { return sheet->isVisible() && sheet->isModal(); });
-}
 
 } // namespace
 
@@ -67,7 +59,7 @@ QModelIndex GroupTableView::dropTarget(const QDropEvent& event) const
         .isFromThisWindow = m_dropSource && event.source() == m_dropSource,
         .row = index.row(),
         .isOnRow = index.isValid() && place.y() >= row.top() && place.y() <= row.bottom(),
-        .isBusy = Waiting::isWaiting() || isAsking(*window()),
+        .isBusy = Waiting::isWaiting() || hasOpenSheet(*window()),
     };
     return validateDrop(context) ? index.siblingAtColumn(NameColumn) : QModelIndex();
 }

@@ -4,6 +4,8 @@
 #include "listwindow/BookTableModel.h"
 #include "listwindow/ColumnLayout.h"
 
+#include "platform/widgets/Waiting.h"
+
 #include <QHeaderView>
 #include <QMenu>
 
@@ -61,6 +63,9 @@ void HeaderMenu::addHideColumn(int column)
 
 void HeaderMenu::hideColumn(const QString& key)
 {
+    // The menu may be answered while the program waits for something.
+    if (Waiting::isWaiting())
+        return;
     m_document.getListColumns().find(key)->second.setPosition(ColumnLayout::positionToRemove);
     m_document.columnsSelectionChanged();
 }

@@ -6,6 +6,8 @@
 #include "document/widgets/ui_GroupManager.h"
 #include "platform/widgets/ScreenFrames.h"
 
+#include "platform/widgets/Waiting.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -185,9 +187,11 @@ void GroupManagerController::forceOutOfEditMode()
 
 void GroupManagerController::ok()
 {
+    if (Waiting::isWaiting())
+        return;
     storeWindowPosition();
     forceOutOfEditMode();
-    m_rows->storeGroups();
+    m_rows->storeGroups(m_aDeletedGroups);
     m_BookListDocument.removeBookGroupReferences(m_aDeletedGroups);
     m_BookListDocument.groupsChanged();
     // Last, so that a group that was ticked and then deleted stays until the next clean-up.

@@ -1,6 +1,7 @@
 // The sheet in which a person adds, renames and deletes the groups of a collection and, when an
-// editor opened it, ticks those that its book is in. Nothing but new names reaches the document
-// before OK; new names of groups that the document has reach it at once and survive Cancel.
+// editor opened it, ticks those that its book is in. Of the groups nothing but new names
+// reaches the document before OK; new names of groups that it has reach it at once and survive
+// Cancel.
 
 #pragma once
 

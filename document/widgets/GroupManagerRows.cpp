@@ -13,8 +13,10 @@ GroupManagerRows::GroupManagerRows(
     , m_groups(groups)
     , m_hasMembership(selectedGroups != nullptr)
 {
-    for (const GroupEntry* const group : groups.byName())
+    for (const GroupEntry* const group : groups.byName()) {
         m_aGroups.push_back(*group);
+        m_knownKeys.insert(group->getKey());
+    }
     if (selectedGroups)
         m_dSelectedGroups = *selectedGroups;
 }
@@ -63,10 +65,14 @@ void GroupManagerRows::remove(int row)
 
 void GroupManagerRows::sortByName()
 {
-    beginResetModel();
-    std::ranges::stable_sort(m_aGroups, [this](const GroupEntry& left, const GroupEntry& right) {
+    const auto precedes = [this](const GroupEntry& left, const GroupEntry& right) {
         return lessIgnoringCase(nameOf(left), nameOf(right));
-    });
+    };
+    // A click that has begun on a row goes on only if the rows stay as they are.
+    if (std::ranges::is_sorted(m_aGroups, precedes))
+        return;
+    beginResetModel();
+    std::ranges::stable_sort(m_aGroups, precedes);
     endResetModel();
 }
 
@@ -78,9 +84,13 @@ void GroupManagerRows::setGroupName(int row, const QString& name)
         shared->setGroupName(name);
 }
 
-void GroupManagerRows::storeGroups()
+void GroupManagerRows::storeGroups(const QStringList& deletedGroups)
 {
     GroupDictionary stored;
+    for (const GroupEntry* const group : m_groups.byName()) {
+        if (!m_knownKeys.contains(group->getKey()) && !deletedGroups.contains(group->getKey()))
+            stored.insert(*group);
+    }
     for (GroupEntry& group : m_aGroups) {
         group.setGroupName(nameOf(group));
         stored.insert(group);

@@ -9,6 +9,8 @@
 #include "model/GroupMembership.h"
 
 #include <QAbstractTableModel>
+#include <QSet>
+#include <QStringList>
 
 #include <vector>
 
@@ -52,8 +54,9 @@ public:
     /// The groups that are ticked.
     const GroupMembership& selectedGroups() const { return m_dSelectedGroups; }
 
-    /// Makes these rows the groups of the document.
-    void storeGroups();
+    /// Makes these rows the groups of the document. Groups that were added elsewhere since the rows
+    /// were made stay, unless they are among the deleted ones.
+    void storeGroups(const QStringList& deletedGroups);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -73,6 +76,7 @@ private:
     // By their keys these are the document's own groups; a record there may go at any time, when a
     // group is deleted in another window.
     std::vector<GroupEntry> m_aGroups;
+    QSet<QString> m_knownKeys; // of the groups that there were at first
     GroupMembership m_dSelectedGroups;
     bool m_hasMembership = false;
 };

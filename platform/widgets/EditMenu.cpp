@@ -1,5 +1,6 @@
 #include "platform/widgets/EditMenu.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -105,6 +106,9 @@ bool isPossible(const Item& item, const QWidget* target)
         return canEditLine(*line, item.command);
     if (const auto* const text = qobject_cast<const QPlainTextEdit*>(target))
         return canEditText(*text, item.command);
+    if (const auto* const view = qobject_cast<const QAbstractItemView*>(target);
+        view && item.command == EditCommand::Copy)
+        return view->selectionModel() && view->selectionModel()->hasSelection();
     return true;
 }
 

@@ -5,14 +5,19 @@
 #include "listwindow/ToolbarConfiguration.h"
 #include "platform/UserDefaults.h"
 #include "platform/widgets/ImageView.h"
+#include "platform/widgets/Waiting.h"
 #include "tests/support/FakeAlerts.h"
 #include "tests/support/Files.h"
 #include "tests/support/PlainPictures.h"
 #include "tests/support/SmallCollection.h"
 
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -22,6 +27,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace tomely;
@@ -63,6 +69,10 @@ private Q_SLOTS:
     void renamesTheHeadingOfACustomField();
     void copiesItsColumnsIntoTheRecords();
     void fillsTheValueLists();
+    void takesNoCommandMeanwhile_data();
+    void takesNoCommandMeanwhile();
+    void bringsTheSearchBack();
+    void hidesNoBooksBehindASearchThatIsGone();
     void restoresItsLayoutOnce();
     void ignoresASavedLayoutThatIsNone_data();
     void ignoresASavedLayoutThatIsNone();
@@ -444,6 +454,76 @@ void BookListWindowControllerTest::fillsTheValueLists()
     m_document->setBooksChanged();
     m_document->refresh();
     QCOMPARE(m_document->getAuthors().size(), 5);
+}
+
+void BookListWindowControllerTest::takesNoCommandMeanwhile_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<bool>("isWaiting");
+    for (const Command& command : commandTable()) {
+        QTest::addRow("%s while the program waits", command.name.data())
+            << QString(command.name) << true;
+        QTest::addRow("%s under a sheet", command.name.data()) << QString(command.name) << false;
+    }
+}
+
+void BookListWindowControllerTest::takesNoCommandMeanwhile()
+{
+    QFETCH(const QString, command);
+    QFETCH(const bool, isWaiting);
+    makeWindow();
+    m_controller->addCommandMenus(*m_controller->window()->menuBar());
+    m_alerts.sheets.clear();
+    m_controller->filter().m_strFilter = u"x"_s;
+    table().setFocus();
+    const std::size_t windows = m_document->windowControllers().size();
+    std::optional<Waiting> waiting;
+    QDialog sheet(m_controller->window());
+    if (isWaiting)
+        waiting.emplace();
+    else
+        sheet.open();
+    QAction* found = nullptr;
+    for (const QMenu* const menu : m_controller->window()->findChildren<QMenu*>()) {
+        for (QAction* const action : menu->actions()) {
+            if (action->objectName() == command)
+                found = action;
+        }
+    }
+    QVERIFY(found);
+    found->setEnabled(true); // whatever is selected
+    found->trigger();
+    const auto dialogs = m_controller->window()->findChildren<QDialog*>();
+    QCOMPARE(dialogs.size(), 1);
+    QVERIFY(m_alerts.sheets.isEmpty());
+    QCOMPARE(m_document->windowControllers().size(), windows);
+    QCOMPARE(m_controller->filter().m_strFilter, u"x"_s);
+    QVERIFY(!m_document->isDocumentEdited());
+    QCOMPARE(m_document->getGroups().byName().size(), std::size_t(2));
+}
+
+void BookListWindowControllerTest::bringsTheSearchBack()
+{
+    makeWindow();
+    m_controller->addCommandMenus(*m_controller->window()->menuBar());
+    const auto* const search = find<QLineEdit>(u"m_idFilter_Text"_s);
+    m_toolbar.setItems({u"addbook"_s});
+    QVERIFY(!search->isVisible());
+    m_controller->window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_controller->window()));
+    QTest::keyClick(m_controller->window()->windowHandle(), Qt::Key_F, Qt::ControlModifier);
+    QTRY_VERIFY(search->isVisible());
+    QCOMPARE(m_toolbar.items(), (QStringList{u"addbook"_s, u"search"_s}));
+    QTRY_VERIFY(search->hasFocus());
+}
+
+void BookListWindowControllerTest::hidesNoBooksBehindASearchThatIsGone()
+{
+    makeWindow();
+    find<QLineEdit>(u"m_idFilter_Text"_s)->setText(u"kim"_s);
+    QCOMPARE(status(), u"1 of 4 displayed"_s);
+    m_toolbar.setItems({u"addbook"_s});
+    QCOMPARE(status(), u"4 of 4 displayed"_s);
 }
 
 void BookListWindowControllerTest::restoresItsLayoutOnce()

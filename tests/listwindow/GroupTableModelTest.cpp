@@ -79,10 +79,11 @@ void GroupTableModelTest::listsTheGroupsByName()
 
 void GroupTableModelTest::keepsItsRowsUntilItIsPopulatedAgain()
 {
-    const QStringList before = namesOf(*m_model);
+    QStringList expected = namesOf(*m_model);
     m_document->getGroups().find(u"3"_s)->setGroupName(u"Zoology"_s);
     m_document->getGroups().remove(u"2"_s);
-    QCOMPARE(namesOf(*m_model), before);
+    expected[1] = u"Zoology"_s; // a name is always the one that the group has
+    QCOMPARE(namesOf(*m_model), expected);
     QCOMPARE(m_model->rowOfGroupKey(2), 4);
     m_model->populateGroups();
     QCOMPARE(namesOf(*m_model),

@@ -169,6 +169,7 @@ void BookListWindowController::connectRooms()
         &BookListWindowController::bookListSelectionDidChange);
     connect(&m_commands, &BookCommands::booksDeleted, m_bookTable, &QTableView::clearSelection);
     connect(m_filterBar, &FilterBar::filterChanged, this, [this] { refresh(); });
+    connect(m_filterBar, &FilterBar::left, this, [this] { m_bookTable->setFocus(); });
     connect(m_filterBar, &FilterBar::labelChanged, m_toolbar, &CommandToolbar::setSearchLabel);
     connect(&m_services.toolbar, &ToolbarConfiguration::changed, this, [this] {
         // A filter that nobody sees must not hide books.

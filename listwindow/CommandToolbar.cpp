@@ -3,6 +3,7 @@
 #include "listwindow/CommandActions.h"
 #include "listwindow/ToolbarConfiguration.h"
 #include "listwindow/ToolbarItems.h"
+#include "platform/widgets/SymbolicIcon.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -116,6 +117,9 @@ CommandToolbar::CommandToolbar(const CommandActions& actions, ToolbarConfigurati
     setObjectName("toolbar"_L1);
     setMovable(false);
     setFloatable(false);
+    // The style's own is black in any palette.
+    if (auto* const extension = findChild<QToolButton*>("qt_toolbar_ext_button"_L1))
+        extension->setIcon(symbolicIcon(u"more"_s));
     m_searchLabel = new ElidedLabel;
     m_searchLabel->setObjectName("m_idSearchLabel"_L1);
     m_searchToolbarItem.setDefaultWidget(searchItem(searchView, *m_searchLabel));

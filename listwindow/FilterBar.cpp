@@ -420,6 +420,15 @@ void FilterBar::clear()
 
 // Looks
 
+void FilterBar::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape)
+        return QWidget::keyPressEvent(event);
+    if (isFiltering())
+        clear();
+    Q_EMIT left();
+}
+
 void FilterBar::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);

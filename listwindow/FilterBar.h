@@ -52,11 +52,15 @@ Q_SIGNALS:
     /// The filter was changed; the list is to be refreshed.
     void filterChanged();
 
+    /// The person is done with the bar: Escape, which has taken the condition off.
+    void left();
+
     /// The selection name of the chosen field; empty when none of the fields is.
     void labelChanged(const QString& label);
 
 protected:
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void addChoices();

@@ -418,6 +418,11 @@ void ArrangingStoriesTest::findsTheSearchByKey()
     QVERIFY(typeKey(u"Delete"_s)); // of the text, not of the book
     QTRY_COMPARE(window.status(), u"4 of 4 displayed"_s);
     QVERIFY(!ProgramOnScreen::alert());
+    QVERIFY(samples::sendInput({u"type"_s, u"emma"_s}));
+    QTRY_COMPARE(window.cells(0, 9), QStringList{u"Emma"_s});
+    QVERIFY(typeKey(u"Escape"_s));
+    QTRY_COMPARE(window.status(), u"4 of 4 displayed"_s);
+    QTRY_VERIFY(window.books().hasFocus());
 }
 
 void ArrangingStoriesTest::addsTheFirstBook()

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void knowsWhetherItFilters();
     void clearsTheCondition_data();
     void clearsTheCondition();
+    void escapeClearsAndLeaves();
     void leavesAFieldThatCannotBeCleared_data();
     void leavesAFieldThatCannotBeCleared();
     void opensTheMenuByKeyAtTheChosenField();
@@ -513,6 +514,20 @@ void FilterBarTest::knowsWhetherItFilters()
     // These always ask for one value.
     for (const QString& field : {u"Rating"_s, u"Type"_s, u"Est Value Date"_s})
         QVERIFY2(afterChoosing(field), qPrintable(field));
+}
+
+void FilterBarTest::escapeClearsAndLeaves()
+{
+    const QSignalSpy left(m_bar.get(), &FilterBar::left);
+    auto& field = samples::control<QLineEdit>(*m_bar, u"m_idFilter_Text"_s);
+    field.setFocus();
+    QTest::keyClicks(&field, u"emma"_s);
+    QTest::keyClick(&field, Qt::Key_Escape);
+    QCOMPARE(field.text(), QString());
+    QVERIFY(!m_bar->isFiltering());
+    QCOMPARE(left.size(), 1);
+    QTest::keyClick(&field, Qt::Key_Escape);
+    QCOMPARE(left.size(), 2);
 }
 
 void FilterBarTest::clearsTheCondition_data()

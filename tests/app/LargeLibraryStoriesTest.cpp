@@ -22,9 +22,9 @@ namespace {
 
 constexpr int bookCount = 100'000;
 
-// Of one frame, handled and painted. Fluent is a tenth of that; this is a build with checks, on a
-// machine that does other things as well.
-constexpr qint64 mostMilliseconds = 500;
+// Of one frame, handled and painted. Fluent is a small part of that; but this may be a build with
+// sanitizers, on a machine that does other things as well. The figures are in the test's output.
+constexpr qint64 mostMilliseconds = 2000;
 
 /// The times of some frames.
 class Frames {

@@ -3,8 +3,8 @@
 
 #include "bench/Libraries.h"
 #include "listwindow/BookListWindowController.h"
-#include "listwindow/ToolbarConfiguration.h"
 #include "listwindow/engine/ColumnKind.h"
+#include "listwindow/ToolbarConfiguration.h"
 #include "platform/UserDefaults.h"
 #include "platform/widgets/MessageBoxAlerts.h"
 

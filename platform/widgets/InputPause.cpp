@@ -41,8 +41,10 @@ bool isInput(QEvent::Type type)
     }
 }
 
+} // namespace
+
 /// Takes Escape, which was meant for a wait, away from windows for as long as it is held or pressed
-/// again and again, and destroys itself.
+/// again and again, and destroys itself then.
 class EscapeAftermath : public QObject {
 public:
     EscapeAftermath()
@@ -50,9 +52,13 @@ public:
         m_end.setSingleShot(true);
         m_end.setInterval(QApplication::doubleClickInterval());
         connect(&m_end, &QTimer::timeout, this, &QObject::deleteLater);
-        m_end.start();
         setObjectName(QLatin1StringView("escapeAftermath"));
         setParent(QCoreApplication::instance());
+    }
+
+    void begin()
+    {
+        m_end.start();
         parent()->installEventFilter(this);
     }
 
@@ -73,9 +79,9 @@ private:
     QTimer m_end;
 };
 
-} // namespace
-
-InputPause::InputPause(std::function<void()> escaped) : m_escaped(std::move(escaped))
+InputPause::InputPause(std::function<void()> escaped)
+    : m_escaped(std::move(escaped))
+    , m_aftermath(new EscapeAftermath)
 {
     QGuiApplication::setOverrideCursor(Qt::BusyCursor);
     QCoreApplication::instance()->installEventFilter(this);
@@ -85,7 +91,7 @@ InputPause::~InputPause()
 {
     QCoreApplication::instance()->removeEventFilter(this);
     QGuiApplication::restoreOverrideCursor();
-    new EscapeAftermath; // destroys itself
+    m_aftermath->begin();
 }
 
 /// A question that blocks the program came up meanwhile, and no wait ends before it is answered.

@@ -14,6 +14,8 @@
 
 namespace tomely {
 
+class EscapeAftermath;
+
 class InputPause : public QObject {
     Q_OBJECT
 
@@ -30,6 +32,7 @@ private:
     bool isAnswering() const;
 
     std::function<void()> m_escaped;
+    EscapeAftermath* m_aftermath; // the application's
     Waiting m_waiting;
 };
 

@@ -494,7 +494,5 @@ void ArrangingStoriesTest::arrangesTheToolbarAndFindsItSo()
     again.documents().closeAll();
 }
 
-Q_DECLARE_METATYPE(tomely::BookFilter)
-
 QTEST_MAIN(ArrangingStoriesTest)
 #include "ArrangingStoriesTest.moc"

@@ -1,4 +1,5 @@
 #include "cli/Commands.h"
+#include "cli/ExportCsvCommand.h"
 #include "cli/LookOptions.h"
 #include "cli/LookupCommand.h"
 #include "cli/ViewOptions.h"
@@ -28,6 +29,18 @@ std::vector<Command> makeCommands()
             1, {ViewOptions::group(), LookOptions::group()}, runList},
         {"dump"_L1, "FILE"_L1, "prints everything in a collection as JSON"_L1,
             "Pictures are represented by their sizes and SHA-1 digests.\n"_L1, 1, 1, {}, runDump},
+        {"export-csv"_L1, "FILE OUT [VIEW] [CSV]"_L1, "writes books as comma-separated values"_L1,
+            "Writes the books of a group that pass a filter, in the order of a sort field,\n"
+            "for spreadsheets. OUT is UTF-16 and is replaced in one step.\n"_L1,
+            2, 2, {ViewOptions::group(), csvOptions()}, runExportCsv},
+        {"export-xml"_L1, "FILE OUT [VIEW]"_L1, "writes books as an XML file"_L1,
+            "Writes the books of a group that pass a filter, in the order of a sort field,\n"
+            "without their pictures and groups. OUT is replaced in one step.\n"_L1,
+            2, 2, {ViewOptions::group()}, runExportXml},
+        {"import-xml"_L1, "FILE IN"_L1, "adds the books of an XML file"_L1,
+            "Every book of IN is added to the collection, whether or not it is there\n"
+            "already, and FILE is saved. When IN cannot be read, FILE is not touched.\n"_L1,
+            2, 2, {}, runImportXml},
         {"rewrite"_L1, "FILE OUT"_L1, "writes a collection in the current version"_L1,
             "Reads a collection of any supported version and writes it to OUT, which may be FILE\n"
             "and is replaced in one step.\n"_L1,

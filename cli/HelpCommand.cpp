@@ -9,8 +9,8 @@ namespace tomely {
 namespace {
 
 constexpr int lineWidth = 79;
-constexpr int optionNameWidth = 20;
-constexpr int commandNameWidth = 30;
+constexpr int optionNameWidth = 26;
+constexpr int commandNameWidth = 36;
 
 /// Two columns: the second is broken into lines between words and stays in its place.
 QString twoColumns(const QString& left, const QString& right, int leftWidth)

@@ -15,6 +15,7 @@
 namespace tomely {
 
 class Archiver;
+class BookXmlNode;
 class Picture;
 class Unarchiver;
 class UserDefaults;
@@ -351,6 +352,14 @@ public:
     /// Reads a record of an archive of the given file version (see model/BookArchive.cpp for what
     /// each version carries). Throws ArchiveError on damage.
     static BookEntry initWithCoder(Unarchiver& unarchiver, qint32 archiveVersion);
+
+    /// The book's element of the XML interchange file, from its indentation to its last line end.
+    QString xmlEncode() const;
+
+    /// Fills a fresh record from a book's element. Texts that the element has not exactly once
+    /// become empty, a missing type becomes 4; numbers and flags stay as they are, as do the key,
+    /// the groups and the pictures.
+    void initFromXMLNode(const BookXmlNode& node);
 
     /// When this book last changed, on a clock that ticks once for every change of any book of the
     /// program. Lists compare it with lastChange() to find what they must look at again.

@@ -33,6 +33,15 @@ QString trimmedText(const QString& text)
     return trimmedBy(text, isBlank);
 }
 
+QStringView trimmedView(QStringView text)
+{
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
+}
+
 QString trimmedLabel(const QString& label)
 {
     return trimmedBy(

@@ -42,6 +42,7 @@ void TextTrimmingTest::trimsTexts()
     QFETCH(const QString, text);
     QFETCH(const QString, trimmed);
     QCOMPARE(trimmedText(text), trimmed);
+    QCOMPARE(trimmedView(text), trimmed);
 }
 
 void TextTrimmingTest::trimsLabels_data()

@@ -1,0 +1,32 @@
+// The XML interchange file: the books in the elements around them. It turns books into a text and
+// bytes into books; it opens no file and knows no collection.
+
+#pragma once
+
+#include "model/BookEntry.h"
+#include "platform/Progress.h"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tomely {
+
+/// The text of a file with these books in this order, byte-order mark included: the file holds its
+/// UTF-16 units as they lie in memory. Reports progress in books and may be left by it.
+std::u16string bookCollectionXml(std::span<BookEntry* const> books, const Progress& progress = {});
+
+using ReadBooks = std::vector<std::unique_ptr<BookEntry>>;
+
+/// How many books are taken from one file. An empty book takes seven bytes of a file and a thousand
+/// times that in memory.
+constexpr std::size_t MostXmlBooks = 2'000'000;
+
+/// The books of a file in their order, without keys. The root element may have any name. A file
+/// that has not exactly one list of books in it gives none, without an error. Reports progress in
+/// bytes and may be left by it. Throws XmlError.
+ReadBooks readBookCollectionXml(
+    QByteArrayView bytes, const Progress& progress = {}, std::size_t mostBooks = MostXmlBooks);
+
+} // namespace tomely

@@ -445,7 +445,17 @@ void ArrangingStoriesTest::copiesBooks()
 {
     ProgramOnScreen program;
     const CollectionWindow window = opened(program.open(program.smallCollection(u"small.books"_s)));
+    const auto canCopy = [&window] {
+        auto& menu = window.find<QMenu>(u"editMenu"_s);
+        menu.popup(window.window().mapToGlobal(QPoint(50, 50)));
+        const bool isEnabled = menu.findChild<QAction*>(u"copy"_s)->isEnabled();
+        menu.close();
+        return isEnabled;
+    };
+    window.books().clearSelection();
+    QVERIFY(!canCopy());
     selectFirst(window, 2);
+    QVERIFY(canCopy());
     QVERIFY(typeKey(u"ctrl+c"_s));
     QTRY_COMPARE(
         QApplication::clipboard()->text(), u"Emma\tJane Austen\nIvanhoe\tWalter Scott\n"_s);

@@ -1,5 +1,6 @@
 #include "document/widgets/GroupManagerController.h"
 
+#include "platform/widgets/Waiting.h"
 #include "tests/support/GroupManagerDesk.h"
 
 #include <QAbstractItemModelTester>
@@ -38,6 +39,8 @@ private Q_SLOTS:
     void cancelAppliesNothing();
     void survivesThatAGroupVanishes_data();
     void survivesThatAGroupVanishes();
+    void keepsGroupsThatWereAddedElsewhere();
+    void takesNoOKWhileTheProgramWaits();
     void goesWithItsWindow();
     void remembersItsSize_data();
     void remembersItsSize();
@@ -312,6 +315,34 @@ void GroupManagerControllerTest::survivesThatAGroupVanishes_data()
     QTest::addColumn<QString>("then");
     for (const char* const then : {"rename", "delete", "ok"})
         QTest::newRow(then) << QString::fromLatin1(then);
+}
+
+void GroupManagerControllerTest::keepsGroupsThatWereAddedElsewhere()
+{
+    open();
+    click(u"m_idAdd"_s);
+    type(u"Maps"_s);
+    QTest::keyClick(editor(), Qt::Key_Return);
+    QTRY_VERIFY(!editor());
+    samples::addGroup(*m_document, u"Plays"_s); // in the main window, while the sheet is open
+    click(u"m_idOK"_s);
+    QCOMPARE(documentNames(),
+        (QStringList{u"1 Fiction"_s, u"2 Non Fiction"_s, u"3 Poems"_s, u"4 Maps"_s, u"5 Plays"_s}));
+}
+
+void GroupManagerControllerTest::takesNoOKWhileTheProgramWaits()
+{
+    open();
+    clickRow(0);
+    click(u"m_idDelete"_s);
+    {
+        const Waiting waiting;
+        m_dialog->ok();
+        QVERIFY(m_dialog->isVisible());
+        QVERIFY(m_document->getGroups().find(u"1"_s));
+    }
+    m_dialog->ok();
+    QVERIFY(!m_document->getGroups().find(u"1"_s));
 }
 
 void GroupManagerControllerTest::survivesThatAGroupVanishes()

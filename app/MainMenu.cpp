@@ -1,5 +1,6 @@
 #include "app/MainMenu.h"
 
+#include "app/Help.h"
 #include "platform/Document.h"
 #include "platform/widgets/DocumentController.h"
 
@@ -8,7 +9,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 
 #include <algorithm>
 
@@ -25,10 +25,10 @@ struct Item {
     QKeySequence::StandardKey keys = QKeySequence::UnknownKey;
 };
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("MainMenu", text);
-}
+/// The texts of this file for translators.
+struct MainMenu {
+    Q_DECLARE_TR_FUNCTIONS(MainMenu)
+};
 
 template <class Triggered>
 QAction* addItem(QMenu& menu, const Item& item, Triggered triggered)
@@ -63,7 +63,7 @@ void fillRecentMenu(QMenu& menu, DocumentController& documents)
             [&documents, path] { documents.openDocument(path); });
     }
     menu.addSeparator();
-    QAction* const clear = menu.addAction(tr("&Clear Menu"));
+    QAction* const clear = menu.addAction(MainMenu::tr("&Clear Menu"));
     clear->setEnabled(!paths.isEmpty());
     QObject::connect(
         clear, &QAction::triggered, &menu, [&documents] { documents.clearRecentDocuments(); });
@@ -71,7 +71,7 @@ void fillRecentMenu(QMenu& menu, DocumentController& documents)
 
 void addRecentMenu(QMenu& fileMenu, DocumentController& documents)
 {
-    QMenu* const recent = fileMenu.addMenu(tr("Open &Recent"));
+    QMenu* const recent = fileMenu.addMenu(MainMenu::tr("Open &Recent"));
     recent->setObjectName("recentMenu"_L1);
     // Filled when it is opened: files come and go, and other windows add to it.
     QObject::connect(recent, &QMenu::aboutToShow, recent,
@@ -80,38 +80,57 @@ void addRecentMenu(QMenu& fileMenu, DocumentController& documents)
 
 } // namespace
 
-void addFileMenu(QMainWindow& window, Document& document, DocumentController& documents)
+void addFileMenu(QMainWindow& window, Document& document, DocumentController& documents,
+    const FileMenuParts& parts)
 {
-    QMenu& menu = *window.menuBar()->addMenu(tr("&File"));
+    QMenu& menu = *window.menuBar()->addMenu(MainMenu::tr("&File"));
     menu.setObjectName("fileMenu"_L1);
-    addItem(menu, {"newCollection"_L1, tr("&New Collection"), "document-new"_L1, QKeySequence::New},
+    addItem(menu,
+        {"newCollection"_L1, MainMenu::tr("&New Collection"), "document-new"_L1, QKeySequence::New},
         [&documents] { documents.newDocument(); });
-    addItem(menu, {"openCollection"_L1, tr("&Open…"), "document-open"_L1, QKeySequence::Open},
+    addItem(menu,
+        {"openCollection"_L1, MainMenu::tr("&Open…"), "document-open"_L1, QKeySequence::Open},
         [&documents, &window] { documents.openWithPanel(&window); });
     addRecentMenu(menu, documents);
     menu.addSeparator();
-    addItem(menu, {"save"_L1, tr("&Save"), "document-save"_L1, QKeySequence::Save},
+    addItem(menu, {"save"_L1, MainMenu::tr("&Save"), "document-save"_L1, QKeySequence::Save},
         [&documents, &document] { documents.save(document); });
-    addItem(menu, {"saveAs"_L1, tr("Save &As…"), "document-save-as"_L1, QKeySequence::SaveAs},
+    addItem(menu,
+        {"saveAs"_L1, MainMenu::tr("Save &As…"), "document-save-as"_L1, QKeySequence::SaveAs},
         [&documents, &document] { documents.saveAs(document); });
     QAction* const revert =
-        addItem(menu, {"revert"_L1, tr("Re&vert to Saved"), "document-revert"_L1},
+        addItem(menu, {"revert"_L1, MainMenu::tr("Re&vert to Saved"), "document-revert"_L1},
             [&documents, &document] { documents.revert(document); });
     QObject::connect(&menu, &QMenu::aboutToShow, revert,
         [revert, &document] { revert->setEnabled(!document.filePath().isEmpty()); });
     menu.addSeparator();
-    addItem(menu, {"closeWindow"_L1, tr("&Close"), "window-close"_L1, QKeySequence::Close},
+    parts.addWindowCommands(menu);
+    menu.addSeparator();
+    addItem(menu,
+        {"preferences"_L1, MainMenu::tr("Pre&ferences…"), "preferences-system"_L1,
+            QKeySequence::Preferences},
+        parts.showPreferences)
+        ->setMenuRole(QAction::PreferencesRole);
+    menu.addSeparator();
+    addItem(menu,
+        {"closeWindow"_L1, MainMenu::tr("&Close"), "window-close"_L1, QKeySequence::Close},
         [&documents, &document] { documents.close(document); });
-    addItem(menu, {"quit"_L1, tr("&Quit"), "application-exit"_L1, QKeySequence::Quit},
+    addItem(menu, {"quit"_L1, MainMenu::tr("&Quit"), "application-exit"_L1, QKeySequence::Quit},
         [&documents] { quit(documents); })
         ->setMenuRole(QAction::QuitRole);
 }
 
 void addHelpMenu(QMainWindow& window)
 {
-    QMenu& menu = *window.menuBar()->addMenu(tr("&Help"));
+    QMenu& menu = *window.menuBar()->addMenu(MainMenu::tr("&Help"));
     menu.setObjectName("helpMenu"_L1);
-    addItem(menu, {"about"_L1, tr("&About Tomely"), "help-about"_L1}, [&window] {
+    addItem(menu,
+        {"guide"_L1, MainMenu::tr("&Guide"), "help-contents"_L1, QKeySequence::HelpContents},
+        [&window] { openGuide(&window); });
+    addItem(menu, {"reportProblem"_L1, MainMenu::tr("&Report a Problem…"), "tools-report-bug"_L1},
+        [&window] { reportProblem(&window); });
+    menu.addSeparator();
+    addItem(menu, {"about"_L1, MainMenu::tr("&About Tomely"), "help-about"_L1}, [&window] {
         showAbout(&window);
     })->setMenuRole(QAction::AboutRole);
 }
@@ -125,6 +144,8 @@ QList<QKeySequence> shortcutsFor(QKeySequence::StandardKey command)
         return {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)};
     if (command == QKeySequence::Quit)
         return {QKeySequence(Qt::CTRL | Qt::Key_Q)};
+    if (command == QKeySequence::Preferences)
+        return {QKeySequence(Qt::CTRL | Qt::Key_Comma)};
     return {};
 }
 
@@ -134,20 +155,6 @@ void quit(DocumentController& documents)
         if (closed)
             QApplication::quit();
     });
-}
-
-void showAbout(QWidget* window)
-{
-    auto* const box = new QMessageBox(window);
-    box->setObjectName("aboutBox"_L1);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(tr("About Tomely"));
-    box->setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
-    box->setText("<b>%1</b>"_L1.arg(tr("Tomely %1").arg(QApplication::applicationVersion())));
-    box->setInformativeText(tr("A catalogue of the books you own.\n\nFree software under the MIT "
-                               "licence, built with Qt %1.")
-                                .arg(QLatin1StringView(qVersion())));
-    box->open();
 }
 
 } // namespace tomely

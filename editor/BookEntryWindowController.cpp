@@ -133,7 +133,8 @@ void BookEntryWindowController::windowDidLoad()
     }
     addEditorMenus(*window()->menuBar(),
         {[this] { saveEntry(m_ui->m_idSaveButton); }, [this] { addMore(); },
-            [this] { lookupBook(); }, [this] { manageGroups(); }, [this] { cancelEntry(); },
+            [this] { lookupBook(); }, [this] { manageGroups(); },
+            [this] { m_document.printDocument(); }, [this] { cancelEntry(); },
             [this] {
                 return m_ui->m_idSaveButton->isEnabled();
             }});

@@ -1,8 +1,11 @@
 #include "editor/CustomLabels.h"
 
 #include "document/BookListDocument.h"
+#include "document/DisplayNames.h"
 #include "editor/EditableLabel.h"
+#include "platform/widgets/Accessibility.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -59,10 +62,15 @@ void CustomLabels::addRow(QWidget& window, const QString& name, const QStringLis
 void CustomLabels::initCustomLabels()
 {
     for (const Row& row : m_rows) {
-        const QString label = m_document.getCustomFieldLabel(row.columnKey);
+        const QString label =
+            displayLabel(row.columnKey, m_document.getCustomFieldLabel(row.columnKey));
         row.label->setText(row.hasColon ? label + u':' : label);
-        for (QWidget* const control : row.controls)
+        for (QWidget* const control : row.controls) {
             control->setAccessibleName(label);
+            // The toolkit takes for a label only one that cannot be edited.
+            if (auto* const popUp = qobject_cast<QComboBox*>(control))
+                setAccessiblePurpose(*popUp, label);
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "editor/DraggableImageView.h"
 
 #include "editor/PictureTransfer.h"
+#include "platform/widgets/MixedColor.h"
 #include "platform/widgets/SymbolicIcon.h"
 
 #include <QApplication>
@@ -29,15 +30,6 @@ constexpr int largestDragSide = 512; // in points; a larger one would hide where
 // A dialog that has just closed hands the focus back within this time, which takes any tool tip
 // away.
 constexpr int refusalAgainWithin = 2000; // in milliseconds
-
-QColor between(const QColor& from, const QColor& to, float share)
-{
-    const auto mixed = [share](float a, float b) {
-        return a + (b - a) * share;
-    };
-    return QColor::fromRgbF(mixed(from.redF(), to.redF()), mixed(from.greenF(), to.greenF()),
-        mixed(from.blueF(), to.blueF()));
-}
 
 QFont smaller(QFont font)
 {

@@ -14,6 +14,7 @@ struct EditorCommands {
     std::function<void()> saveAndAddMore;
     std::function<void()> lookUp;
     std::function<void()> manageGroups;
+    std::function<void()> print;
     std::function<void()> close;
     std::function<bool()> canSave; // asked when the menu opens
 };

@@ -1,5 +1,6 @@
 #include "editor/EntryForm.h"
 
+#include "document/DisplayNames.h"
 #include "editor/CompletingComboBox.h"
 #include "editor/NotesView.h"
 #include "editor/PopUpButton.h"
@@ -51,8 +52,7 @@ void setTextOf(QWidget* control, const QString& text)
 void addTypeItems(PopUpButton& popUp)
 {
     for (qint32 type = 0; type < typeCount; ++type)
-        popUp.addTaggedItem(
-            QCoreApplication::translate("BookType", qPrintable(BookEntry::typeText(type))), type);
+        popUp.addTaggedItem(displayType(type), type);
     popUp.addTaggedItem({}, emptyType);
 }
 
@@ -63,11 +63,11 @@ void addRatingItems(PopUpButton& popUp)
         popUp.addTaggedItem(QString::number(rating), rating);
 }
 
-void addMonthItems(PopUpButton& popUp, const QLocale& locale)
+void addMonthItems(PopUpButton& popUp)
 {
     popUp.addTaggedItem(u"–"_s, 0);
     for (qint32 month = 1; month <= lastMonth; ++month)
-        popUp.addTaggedItem(locale.standaloneMonthName(month), month);
+        popUp.addTaggedItem(displayMonth(month), month);
 }
 
 } // namespace
@@ -104,7 +104,7 @@ void EntryForm::prepare(const Row& row) const
     else if (row.field->kind == FieldKind::Rating)
         addRatingItems(*popUp);
     else
-        addMonthItems(*popUp, m_locale);
+        addMonthItems(*popUp);
 }
 
 void EntryForm::clear()

@@ -14,8 +14,9 @@ namespace tomely {
 
 namespace {
 
-constexpr std::array<QLatin1StringView, 4> typeTexts = {
-    "Hardcover"_L1, "Paperback"_L1, "Audio Book"_L1, "eBook"_L1};
+constexpr std::array typeTexts = {QT_TRANSLATE_NOOP("BookType", "Hardcover"),
+    QT_TRANSLATE_NOOP("BookType", "Paperback"), QT_TRANSLATE_NOOP("BookType", "Audio Book"),
+    QT_TRANSLATE_NOOP("BookType", "eBook")};
 constexpr qint32 typeOfEmptyText = 4;
 constexpr qint32 typeOfUnknownText = 1;
 
@@ -44,7 +45,7 @@ void BookEntry::setNotes(const QString& value)
 QString BookEntry::typeText(qint32 type)
 {
     const auto index = static_cast<std::size_t>(static_cast<quint32>(type));
-    return index < typeTexts.size() ? QString(typeTexts.at(index)) : u""_s;
+    return index < typeTexts.size() ? QString::fromLatin1(typeTexts.at(index)) : u""_s;
 }
 
 qint32 BookEntry::getTypeNum(QStringView text)
@@ -52,7 +53,7 @@ qint32 BookEntry::getTypeNum(QStringView text)
     if (text.isEmpty())
         return typeOfEmptyText;
     for (std::size_t type = 0; type < typeTexts.size(); ++type) {
-        if (compareIgnoringCase(text, QString(typeTexts.at(type))) == 0)
+        if (compareIgnoringCase(text, QString::fromLatin1(typeTexts.at(type))) == 0)
             return static_cast<qint32>(type);
     }
     return typeOfUnknownText;

@@ -1,15 +1,12 @@
 // Opening and saving a collection, beside what the bytes alone cost.
 
+#include "bench/ByteFloors.h"
 #include "bench/Libraries.h"
 #include "model/BookField.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <cstdio>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -41,12 +38,6 @@ QByteArray allTexts(const BookListDocument& document)
     return bytes;
 }
 
-QByteArray readBytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void open_floor(benchmark::State& state)
 {
     const int books = static_cast<int>(state.range(0));
@@ -69,19 +60,6 @@ void save(benchmark::State& state)
         if (document.writeToFile(path))
             state.SkipWithError("the file could not be written");
     }
-}
-
-/// Writes and syncs the bytes beside the target and renames them onto it.
-bool writeSynced(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path + ".new"_L1);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        || file.write(bytes) != bytes.size() || fsync(file.handle()) != 0)
-        return false;
-    file.close();
-    return std::rename(
-               QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData())
-        == 0;
 }
 
 void save_floor(benchmark::State& state)

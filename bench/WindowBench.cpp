@@ -6,6 +6,7 @@
 #include "listwindow/engine/ColumnKind.h"
 #include "listwindow/ToolbarConfiguration.h"
 #include "platform/UserDefaults.h"
+#include "platform/widgets/FilePanels.h"
 #include "platform/widgets/MessageBoxAlerts.h"
 
 #include <benchmark/benchmark.h>
@@ -31,7 +32,7 @@ public:
     explicit ShownLibrary(int books)
         : m_document({.makeWindow = [this](BookListDocument& document) {
             auto controller = std::make_unique<BookListWindowController>(
-                document, ListWindowServices{m_alerts, m_defaults, m_toolbar, {}, {}});
+                document, ListWindowServices{m_alerts, m_defaults, m_panels, m_toolbar, {}, {}});
             m_controller = controller.get();
             document.addWindowController(std::move(controller));
             return m_controller;
@@ -62,6 +63,7 @@ private:
     MessageBoxAlerts m_alerts;
     QTemporaryDir m_folder;
     UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
+    DesktopFilePanels m_panels{m_alerts};
     ToolbarConfiguration m_toolbar{m_defaults};
     BookListWindowController* m_controller = nullptr;
     BookListDocument m_document;

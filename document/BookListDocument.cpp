@@ -209,6 +209,12 @@ void BookListDocument::windowLayoutChanged()
     changeDone();
 }
 
+void BookListDocument::printDocument()
+{
+    if (m_bookListController)
+        m_bookListController->printDocument();
+}
+
 // The file
 
 QByteArray BookListDocument::dataRepresentation(const Progress& progress)

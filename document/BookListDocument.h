@@ -175,6 +175,9 @@ public:
     void columnsSelectionChanged();
     void windowLayoutChanged();
 
+    /// Lets the person print the displayed books.
+    void printDocument();
+
     // The default collection.
 
     /// Opening the default file by hand completes settings that know only its path.

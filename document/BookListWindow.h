@@ -52,6 +52,9 @@ public:
 
     /// Takes over a group name that is still being typed.
     virtual void endGroupNameEditting() = 0;
+
+    /// Lets the person print the displayed books.
+    virtual void printDocument() = 0;
 };
 
 } // namespace tomely

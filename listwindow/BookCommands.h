@@ -19,6 +19,7 @@ class BookEditorWindow;
 class BookEntry;
 class BookListDocument;
 class DocumentWindow;
+class FilePanels;
 class ToolbarConfiguration;
 class UserDefaults;
 
@@ -26,6 +27,7 @@ class UserDefaults;
 struct ListWindowServices {
     Alerts& alerts;
     UserDefaults& defaults;
+    FilePanels& panels;
     ToolbarConfiguration& toolbar;
     /// Makes an editor for a new book, at the frame in screen coordinates unless that is empty.
     std::function<std::unique_ptr<DocumentWindow>(BookListDocument& document, QRect frame)>

@@ -3,6 +3,8 @@
 #include "document/BookEditorWindow.h"
 #include "document/BookListDocument.h"
 #include "listwindow/BookDrag.h"
+#include "listwindow/BookExchange.h"
+#include "listwindow/BookPrinting.h"
 #include "listwindow/BookSelection.h"
 #include "listwindow/BookTableModel.h"
 #include "listwindow/BookTableView.h"
@@ -16,10 +18,10 @@
 #include "listwindow/FilterBar.h"
 #include "listwindow/GroupSidebar.h"
 #include "listwindow/HeaderMenu.h"
+#include "listwindow/PaneLayout.h"
 #include "listwindow/SingleLineDelegate.h"
 #include "listwindow/ToolbarConfiguration.h"
 #include "listwindow/ui_BookListWindow.h"
-#include "platform/widgets/ScreenFrames.h"
 #include "platform/widgets/Sheets.h"
 #include "platform/widgets/Waiting.h"
 
@@ -42,14 +44,6 @@ namespace {
 const QString searchItem = u"search"_s; // of the toolbar
 constexpr int rowPadding = 8; // above and below a row's text together
 constexpr int statusMargin = 3;
-constexpr int firstSidebarWidth = 238; // a picture of 218 points and its margins
-constexpr int firstPreviewHeight = 330;
-
-QRectF paneFrame(const QSplitter& splitter, int index)
-{
-    const QWidget* const pane = splitter.widget(index);
-    return pane ? QRectF(pane->geometry()) : QRectF();
-}
 
 int rowHeight(const QWidget& widget)
 {
@@ -74,8 +68,9 @@ BookListWindowController::BookListWindowController(
     m_engine.filter().m_nSelectedFilter = ColumnKey::AuthorAndTitle;
     buildBookTable();
     buildSidebar();
+    buildFileCommands();
     buildToolbar();
-    sharePanes();
+    sharePanes(panes());
     windowDidLoad();
 }
 
@@ -116,6 +111,13 @@ void BookListWindowController::buildSidebar()
         *m_sidebar, [this] { return selectedBookKeys(); });
 }
 
+void BookListWindowController::buildFileCommands()
+{
+    m_exchange = std::make_unique<BookExchange>(m_document, m_services, *window(), m_engine);
+    m_printing = std::make_unique<BookPrinting>(
+        m_document, *window(), *m_bookTable, getDisplayedBooks(), m_services.alerts);
+}
+
 void BookListWindowController::buildToolbar()
 {
     m_actions = std::make_unique<CommandActions>(*m_bookTable);
@@ -123,17 +125,6 @@ void BookListWindowController::buildToolbar()
     m_toolbar = new CommandToolbar(*m_actions, m_services.toolbar, *m_filterBar, window());
     window()->addToolBar(m_toolbar);
     window()->setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's could hide the toolbar
-}
-
-void BookListWindowController::sharePanes()
-{
-    m_ui->m_idListSplitter->setStretchFactor(0, 0);
-    m_ui->m_idListSplitter->setStretchFactor(1, 1);
-    m_ui->m_idImageSplitter->setStretchFactor(0, 1);
-    m_ui->m_idImageSplitter->setStretchFactor(1, 0);
-    m_ui->m_idListSplitter->setSizes({firstSidebarWidth, window()->width() - firstSidebarWidth});
-    m_ui->m_idImageSplitter->setSizes(
-        {window()->height() - firstPreviewHeight, firstPreviewHeight});
 }
 
 void BookListWindowController::windowDidLoad()
@@ -221,7 +212,7 @@ void BookListWindowController::showWindow()
 {
     const bool isFirstCall = !m_bShowWindowCalled;
     if (isFirstCall)
-        restoreLayout();
+        restoreLayout(panes(), m_document);
     m_bShowWindowCalled = true;
     WindowController::showWindow();
     if (isFirstCall)
@@ -232,26 +223,14 @@ void BookListWindowController::showWindow()
         m_columns->shareWidthEvenly(m_ui->m_idListPages->width());
 }
 
-void BookListWindowController::restoreLayout()
-{
-    const QRectF frame = m_document.getSavedWindowPosition();
-    if (frame.width() != 0 && frame.width() >= window()->minimumWidth())
-        FrameRestorer::restore(*window(), frame);
-    const QRectF above = m_document.getSavedImageSplitterView1Size();
-    const QRectF below = m_document.getSavedImageSplitterView2Size();
-    if (above.height() != 0 || below.height() != 0)
-        getImageSplitter()->setSizes({wholePoint(above.height()), wholePoint(below.height())});
-    const QRectF left = m_document.getSavedListSplitterView1Size();
-    const QRectF right = m_document.getSavedListSplitterView2Size();
-    if (left.height() != 0 || right.height() != 0)
-        getListSplitter()->setSizes({wholePoint(left.width()), wholePoint(right.width())});
-}
-
 WindowLayout BookListWindowController::currentLayout()
 {
-    return {currentFrameForFile(*window(), m_document.getSavedWindowPosition()),
-        {paneFrame(*getImageSplitter(), 0), paneFrame(*getImageSplitter(), 1)},
-        {paneFrame(*getListSplitter(), 0), paneFrame(*getListSplitter(), 1)}};
+    return layoutOf(panes(), m_document);
+}
+
+WindowPanes BookListWindowController::panes() const
+{
+    return {*window(), *getImageSplitter(), *getListSplitter()};
 }
 
 QSplitter* BookListWindowController::getImageSplitter() const
@@ -330,6 +309,11 @@ void BookListWindowController::groupsChanged()
 
 // Commands
 
+void BookListWindowController::addFileCommands(QMenu& fileMenu)
+{
+    m_actions->addFileCommands(fileMenu);
+}
+
 void BookListWindowController::addCommandMenus(QMenuBar& menuBar)
 {
     m_actions->addMenus(menuBar);
@@ -374,7 +358,25 @@ void BookListWindowController::perform(CommandId id)
         return find();
     case CommandId::ClearFilter:
         return m_filterBar->clear();
+    case CommandId::ImportXML:
+        return m_exchange->importXML();
+    case CommandId::ExportXML:
+        return m_exchange->exportXML();
+    case CommandId::ExportCSV:
+        return m_exchange->exportCSV();
+    case CommandId::PrintPreview:
+        return m_printing->showPreview();
+    case CommandId::Print:
+        return m_printing->printDocument();
     }
+}
+
+void BookListWindowController::printDocument()
+{
+    if (!takesCommands())
+        return;
+    bringToFront(); // editors ask for it, too: the sheet is to be seen
+    perform(CommandId::Print);
 }
 
 /// Commands also come from where no window can keep them out: the desktop's own menus, a screen

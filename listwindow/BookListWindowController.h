@@ -16,6 +16,7 @@
 #include <memory>
 
 class QLabel;
+class QMenu;
 class QMenuBar;
 class QSplitter;
 
@@ -26,7 +27,9 @@ class BookListWindow;
 namespace tomely {
 
 class BookDrag;
+class BookExchange;
 class BookListDocument;
+class BookPrinting;
 class BookTableModel;
 class BookTableView;
 class ColumnLayout;
@@ -37,6 +40,7 @@ class EmptyList;
 class FilterBar;
 class GroupSidebar;
 class HeaderMenu;
+struct WindowPanes;
 
 class BookListWindowController : public WindowController, public BookListWindow {
     Q_OBJECT
@@ -62,8 +66,12 @@ public:
     WindowLayout currentLayout() override;
     void addNewBook(QRect frame) override;
     void endGroupNameEditting() override;
+    void printDocument() override;
 
     void endEditing() override { endGroupNameEditting(); }
+
+    /// Adds the window's own commands to the menu File of the program.
+    void addFileCommands(QMenu& fileMenu);
 
     /// Adds the menus of the window's commands, which are the window's own affair, between those of
     /// the program.
@@ -91,13 +99,13 @@ public:
 private:
     void buildBookTable();
     void buildSidebar();
+    void buildFileCommands();
     void buildToolbar();
-    void sharePanes();
     void windowDidLoad();
     void connectRooms();
     void connectCommands();
     void startupTimer();
-    void restoreLayout();
+    WindowPanes panes() const;
     void windowLayoutChanged();
     void didClickTableColumn(qint32 columnKey);
     void groupSelected(qint32 groupKey);
@@ -129,6 +137,8 @@ private:
     std::unique_ptr<GroupSidebar> m_sidebar;
     BookCommands m_commands;
     std::unique_ptr<GroupCommands> m_groupCommands;
+    std::unique_ptr<BookExchange> m_exchange;
+    std::unique_ptr<BookPrinting> m_printing;
     std::unique_ptr<CommandActions> m_actions;
     QPointer<CustomizeListController> m_customizeListController; // owned by the window
     QTimer m_startupTimer;

@@ -1,6 +1,8 @@
 #include "listwindow/BookTableModel.h"
 
+#include "document/DisplayNames.h"
 #include "listwindow/engine/CellText.h"
+#include "listwindow/engine/ColumnKind.h"
 #include "model/KeyText.h"
 
 #include <algorithm>
@@ -34,13 +36,25 @@ QVariant BookTableModel::data(const QModelIndex& index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return cellText(*m_displayedBooks.at(static_cast<std::size_t>(index.row())),
+        return displayCellText(*m_displayedBooks.at(static_cast<std::size_t>(index.row())),
             keyOfColumn(index.column()), index.row());
+    case Qt::AccessibleTextRole:
+        return accessibleText(index);
     case Qt::TextAlignmentRole:
         return headerData(index.column(), Qt::Horizontal, role);
     default:
         return {};
     }
+}
+
+/// What a screen reader says: a mark in words, for anything else what is shown.
+QVariant BookTableModel::accessibleText(const QModelIndex& index) const
+{
+    const qint32 key = keyOfColumn(index.column());
+    if (columnKind(key) != ColumnKind::Flag)
+        return data(index, Qt::DisplayRole);
+    const BookEntry& book = *m_displayedBooks.at(static_cast<std::size_t>(index.row()));
+    return fieldOfColumn(key)->flag(book) ? tr("yes") : tr("no");
 }
 
 QVariant BookTableModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -49,7 +63,7 @@ QVariant BookTableModel::headerData(int section, Qt::Orientation orientation, in
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return record(section).getColumnName();
+        return displayName(record(section));
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::Alignment(
             record(section).getCentered() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter));

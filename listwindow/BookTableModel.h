@@ -46,6 +46,8 @@ public:
     void columnRenamed(int column) { Q_EMIT headerDataChanged(Qt::Horizontal, column, column); }
 
 private:
+    QVariant accessibleText(const QModelIndex& index) const;
+
     const std::vector<BookEntry*>& m_displayedBooks;
     const ColumnDictionary& m_columns;
     std::vector<QString> m_keys; // the keys of the column records, in their order

@@ -1,6 +1,7 @@
 #include "listwindow/BookTableView.h"
 
 #include "listwindow/BookClipboard.h"
+#include "platform/widgets/ListFocus.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -35,6 +36,12 @@ void BookTableView::copy() const
 {
     if (selectionModel()->hasSelection())
         QGuiApplication::clipboard()->setText(tabSeparatedLines(*this));
+}
+
+void BookTableView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QTableView::initViewItemOption(option);
+    paleWithoutFocus(*option, *this);
 }
 
 void BookTableView::mousePressEvent(QMouseEvent* event)

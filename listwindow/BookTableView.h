@@ -32,6 +32,7 @@ Q_SIGNALS:
     void rowsPulled(const std::vector<int>& rows);
 
 protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

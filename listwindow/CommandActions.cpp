@@ -91,6 +91,14 @@ void CommandActions::makeContextMenus(QWidget& parent)
     m_libraryMenu->addAction(action(CommandId::AddGroup));
 }
 
+void CommandActions::addFileCommands(QMenu& fileMenu)
+{
+    fileMenu.addActions(
+        {action(CommandId::ImportXML), action(CommandId::ExportXML), action(CommandId::ExportCSV)});
+    fileMenu.addSeparator();
+    fileMenu.addActions({action(CommandId::PrintPreview), action(CommandId::Print)});
+}
+
 void CommandActions::addMenus(QMenuBar& menuBar)
 {
     QMenu& edit = addEditMenu(menuBar);

@@ -33,6 +33,9 @@ public:
 
     QAction* action(CommandId id) const { return m_actions.at(static_cast<std::size_t>(id)); }
 
+    /// Adds what the window brings to the menu File: import, export and printing.
+    void addFileCommands(QMenu& fileMenu);
+
     /// Adds the menus Edit, Book, Group and View.
     void addMenus(QMenuBar& menuBar);
 

@@ -42,6 +42,16 @@ const QList<Command>& table()
             {QKeySequence(QKeySequence::Find)}},
         {CommandId::ClearFilter, "clearFilter"_L1, QT_TRANSLATE_NOOP("Commands", "Clear &Filter"),
             {}, {}},
+        {CommandId::ImportXML, "importXML"_L1, QT_TRANSLATE_NOOP("Commands", "&Import XML…"), {},
+            {}},
+        {CommandId::ExportXML, "exportXML"_L1, QT_TRANSLATE_NOOP("Commands", "Export &XML…"), {},
+            {}},
+        {CommandId::ExportCSV, "exportCSV"_L1, QT_TRANSLATE_NOOP("Commands", "&Export CSV…"), {},
+            {}},
+        {CommandId::PrintPreview, "printPreview"_L1,
+            QT_TRANSLATE_NOOP("Commands", "Print Previe&w…"), {}, {}},
+        {CommandId::Print, "print"_L1, QT_TRANSLATE_NOOP("Commands", "&Print…"), "print"_L1,
+            {QKeySequence(QKeySequence::Print)}},
     };
     return commands;
 }

@@ -26,6 +26,11 @@ enum class CommandId {
     CustomizeToolbar,
     Find,
     ClearFilter,
+    ImportXML,
+    ExportXML,
+    ExportCSV,
+    PrintPreview,
+    Print,
 };
 
 /// What a command needs before it can be given. A group is one other than the library.

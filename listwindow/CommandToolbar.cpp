@@ -117,9 +117,11 @@ CommandToolbar::CommandToolbar(const CommandActions& actions, ToolbarConfigurati
     setObjectName("toolbar"_L1);
     setMovable(false);
     setFloatable(false);
-    // The style's own is black in any palette.
-    if (auto* const extension = findChild<QToolButton*>("qt_toolbar_ext_button"_L1))
-        extension->setIcon(symbolicIcon(u"more"_s));
+    if (auto* const extension = findChild<QToolButton*>("qt_toolbar_ext_button"_L1)) {
+        extension->setIcon(symbolicIcon(u"more"_s)); // the style's own is black in any palette
+        extension->setAccessibleName(tr("More commands"));
+        extension->setToolTip(tr("More commands"));
+    }
     m_searchLabel = new ElidedLabel;
     m_searchLabel->setObjectName("m_idSearchLabel"_L1);
     m_searchToolbarItem.setDefaultWidget(searchItem(searchView, *m_searchLabel));

@@ -1,6 +1,8 @@
 #include "listwindow/CustomizeListController.h"
 
 #include "document/BookListDocument.h"
+#include "document/DisplayNames.h"
+#include "document/widgets/CheckCellDelegate.h"
 #include "listwindow/ColumnLayout.h"
 #include "listwindow/engine/ColumnComparator.h"
 #include "listwindow/ui_CustomizeList.h"
@@ -58,6 +60,7 @@ void CustomizeListController::windowDidLoad()
     // A column's box and its name are one item, which screen readers tell together.
     for (std::size_t row = 0; row < m_aColumns.size(); ++row)
         new QListWidgetItem(m_ui->m_idTableView); // owned by the table
+    m_ui->m_idTableView->setItemDelegate(new CheckCellDelegate(m_ui->m_idTableView));
     reloadRows();
     m_ui->m_idTableView->setCurrentRow(0);
     m_ui->m_idTableView->setFocus();
@@ -76,7 +79,7 @@ void CustomizeListController::reloadRows()
     for (const ColumnEntry* const column : m_aColumns) {
         QListWidgetItem& item = *m_ui->m_idTableView->item(row++);
         const bool isTicked = m_dSelectedColumns.contains(column->getKey());
-        item.setText(column->getSelectionName());
+        item.setText(displaySelectionName(*column));
         item.setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
         item.setData(keyRole, column->getKey());
     }

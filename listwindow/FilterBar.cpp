@@ -1,10 +1,12 @@
 #include "listwindow/FilterBar.h"
 
+#include "document/DisplayNames.h"
 #include "listwindow/engine/BookFilter.h"
 #include "listwindow/engine/ColumnComparator.h"
 #include "listwindow/engine/FilterInput.h"
 #include "listwindow/ui_FilterBar.h"
 #include "platform/LenientNumbers.h"
+#include "platform/widgets/Accessibility.h"
 #include "platform/widgets/SymbolicIcon.h"
 
 #include <QActionGroup>
@@ -33,11 +35,11 @@ constexpr qint32 largestRating = 5;
 constexpr qint32 typeCount = 4;
 constexpr qsizetype yearDigits = 4;
 
-ColumnEntry entry(qint32 key, const QString& selectionName, FilterType type)
+ColumnEntry entry(qint32 key, const char* selectionName, FilterType type)
 {
     ColumnEntry column;
     column.setKey(key);
-    column.setSelectionName(selectionName);
+    column.setSelectionName(QString::fromLatin1(selectionName));
     column.setFilterType(type);
     return column;
 }
@@ -98,6 +100,9 @@ protected:
     }
 
 private:
+    /// As it is read: without the signs of a mnemonic.
+    static QString nameOf(const QAction& item) { return item.text().replace("&&"_L1, "&"_L1); }
+
     QAction* find() const
     {
         QList<QAction*> items = actions();
@@ -108,11 +113,11 @@ private:
         const qsizetype first = std::max<qsizetype>(active + (isRepeated ? 1 : 0), 0);
         std::rotate(items.begin(), items.begin() + first, items.end());
         auto found = std::ranges::find_if(items, [&wanted](const QAction* item) {
-            return item->data().toString().startsWith(wanted, Qt::CaseInsensitive);
+            return nameOf(*item).startsWith(wanted, Qt::CaseInsensitive);
         });
         if (found == items.end()) {
             found = std::ranges::find_if(items, [&wanted](const QAction* item) {
-                return item->data().toString().contains(wanted, Qt::CaseInsensitive);
+                return nameOf(*item).contains(wanted, Qt::CaseInsensitive);
             });
         }
         return found == items.end() ? nullptr : *found;
@@ -147,6 +152,10 @@ FilterBar::FilterBar(
     m_ui->m_idFilterPage_BookRating->setFocusProxy(m_ui->m_idFilter_BookRatingDropDown);
     m_ui->m_idFilterPage_Images->setFocusProxy(m_ui->m_idFilter_ImageStatusDropDown);
     m_ui->m_idFilterPage_Groups->setFocusProxy(m_ui->m_idFilter_GroupStatusDropDown);
+    for (QComboBox* const popUp : findChildren<QComboBox*>())
+        setAccessiblePurpose(*popUp, popUp->accessibleName());
+    for (QLineEdit* const line : findChildren<QLineEdit*>())
+        nameClearButton(*line);
     addChoices();
     updateSizes();
     connectControls();
@@ -168,12 +177,11 @@ void FilterBar::addChoices()
         {tr("is"), tr("is not"), tr("before"), tr("after"), tr("on or before"), tr("on or after")});
     QStringList months{tr("Any month")};
     for (int month = 1; month <= lastMonth; ++month)
-        months.append(m_locale.standaloneMonthName(month));
+        months.append(displayMonth(month));
     addTaggedItems(*m_ui->m_idFilter_DateMonthDropDown, months);
     QStringList types;
     for (qint32 type = 0; type < typeCount; ++type)
-        types.append(
-            QCoreApplication::translate("BookType", qPrintable(BookEntry::typeText(type))));
+        types.append(displayType(type));
     addTaggedItems(*m_ui->m_idFilter_BookTypeDropDown, types);
     QStringList ratings{tr("None")};
     for (qint32 rating = 1; rating <= largestRating; ++rating)
@@ -224,14 +232,15 @@ void FilterBar::initFilterDropDown()
 void FilterBar::collectFilterColumns()
 {
     std::vector<ColumnEntry> columns{
-        entry(ColumnKey::Images, u"Images"_s, FilterType::Images),
-        entry(ColumnKey::Groups, u"Groups"_s, FilterType::Groups),
+        entry(ColumnKey::Images, QT_TRANSLATE_NOOP("Columns", "Images"), FilterType::Images),
+        entry(ColumnKey::Groups, QT_TRANSLATE_NOOP("Columns", "Groups"), FilterType::Groups),
     };
     for (const auto& [key, column] : m_columns)
         columns.push_back(column);
     std::ranges::stable_sort(columns, precedes);
-    m_filterColumns.assign(
-        1, entry(ColumnKey::AuthorAndTitle, u"Author & Title"_s, FilterType::Text));
+    m_filterColumns.assign(1,
+        entry(ColumnKey::AuthorAndTitle, QT_TRANSLATE_NOOP("Columns", "Author & Title"),
+            FilterType::Text));
     std::ranges::copy_if(columns, std::back_inserter(m_filterColumns),
         [](const ColumnEntry& column) { return column.getFilterType() >= FilterType::Text; });
 }
@@ -244,7 +253,7 @@ void FilterBar::addFieldItem(const ColumnEntry& column)
         && !items.last()->data().toString().startsWith(customSelectionName({}));
     if (isFirstOfFields || isFirstCustom)
         m_menu->addSeparator();
-    QString text = column.getSelectionName();
+    QString text = displaySelectionName(column);
     QAction* const item = m_menu->addAction(text.replace(u'&', "&&"_L1));
     item->setData(column.getSelectionName());
     item->setCheckable(true);
@@ -277,7 +286,7 @@ void FilterBar::changedFilterType()
         const auto type = static_cast<std::size_t>(chosen->getFilterType());
         if (type < pageOfFilterType.size())
             m_ui->m_idFilterTab->setCurrentIndex(pageOfFilterType.at(type));
-        showLabel(title);
+        showLabel(displaySelectionName(*chosen));
     }
     Q_EMIT filterChanged();
 }
@@ -287,7 +296,7 @@ void FilterBar::showLabel(const QString& label)
     const QString search = label.isEmpty() ? tr("Search") : tr("Search %1").arg(label);
     m_ui->m_idFilter_Text->setPlaceholderText(search);
     m_ui->m_idFilter_Text->setAccessibleName(search);
-    m_ui->m_idFilter_CheckedStatusDropDown->setAccessibleName(label);
+    setAccessiblePurpose(*m_ui->m_idFilter_CheckedStatusDropDown, label);
     const QString choose =
         label.isEmpty() ? tr("Choose what to search") : tr("Choose what to search: %1").arg(label);
     m_ui->m_idFilterDropDown->setToolTip(choose);

@@ -3,6 +3,7 @@
 #include "listwindow/BookDrag.h"
 #include "listwindow/GroupDrop.h"
 #include "listwindow/GroupTableModel.h"
+#include "platform/widgets/ListFocus.h"
 #include "platform/widgets/Sheets.h"
 #include "platform/widgets/Waiting.h"
 
@@ -10,6 +11,7 @@
 #include <QHeaderView>
 #include <QMimeData>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -20,11 +22,36 @@ namespace {
 constexpr int betweenRows = 2; // in points: that near to its edge the mouse is not on a row
 constexpr qreal litCorner = 4;
 
+/// Icons as high as the names beside them and, on a selection that is pale, in their colour.
+class IconDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int textHeight = option->fontMetrics.ascent();
+        option->decorationSize = option->decorationSize.expandedTo({textHeight, textHeight});
+        if (option->state.testFlag(QStyle::State_Selected) && !option->widget->hasFocus()) {
+            option->state.setFlag(QStyle::State_Selected, false);
+            option->backgroundBrush = option->palette.highlight();
+        }
+    }
+};
+
 } // namespace
 
 GroupTableView::GroupTableView(QWidget* parent) : GroupNameTable(parent)
 {
     setAcceptDrops(true);
+    setItemDelegateForColumn(GroupTableModel::IconColumn, new IconDelegate(this));
+}
+
+void GroupTableView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    GroupNameTable::initViewItemOption(option);
+    paleWithoutFocus(*option, *this);
 }
 
 void GroupTableView::resizeEvent(QResizeEvent* event)

@@ -31,6 +31,7 @@ Q_SIGNALS:
     void contextMenuRequested(QPoint globalPosition, bool isOnGroup);
 
 protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;

@@ -1,6 +1,7 @@
 #include "listwindow/HeaderMenu.h"
 
 #include "document/BookListDocument.h"
+#include "document/DisplayNames.h"
 #include "listwindow/BookTableModel.h"
 #include "listwindow/ColumnLayout.h"
 
@@ -54,7 +55,7 @@ void HeaderMenu::popUp(QPoint position)
 void HeaderMenu::addHideColumn(int column)
 {
     const ColumnEntry& record = m_model.record(column);
-    const QString name = menuText(record.getColumnName(), m_menu.fontMetrics());
+    const QString name = menuText(displayName(record), m_menu.fontMetrics());
     QAction* const hide =
         m_menu.addAction(name.isEmpty() ? tr("&Hide This Column") : tr("&Hide '%1'").arg(name));
     hide->setObjectName("hideColumn"_L1);

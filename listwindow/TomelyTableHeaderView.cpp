@@ -8,6 +8,7 @@ namespace tomely {
 TomelyTableHeaderView::TomelyTableHeaderView(QWidget* parent) : QHeaderView(Qt::Horizontal, parent)
 {
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    setTextElideMode(Qt::ElideRight);
     connect(this, &QHeaderView::sectionMoved, this, &TomelyTableHeaderView::noteChange);
     connect(this, &QHeaderView::sectionResized, this, &TomelyTableHeaderView::noteChange);
 }

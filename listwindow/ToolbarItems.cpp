@@ -30,6 +30,8 @@ constexpr auto items = std::to_array<ToolbarItem>({
         CommandId::DeleteGroup, {}},
     {"search"_L1, QT_TRANSLATE_NOOP("ToolbarItems", "Author & Title"), ToolbarItemKind::Search, {},
         "search"_L1},
+    {"print"_L1, QT_TRANSLATE_NOOP("ToolbarItems", "Print"), ToolbarItemKind::Command,
+        CommandId::Print, {}},
     {"flexiblespace"_L1, QT_TRANSLATE_NOOP("ToolbarItems", "Flexible Space"),
         ToolbarItemKind::FlexibleSpace, {}, "flexiblespace"_L1},
     {"customizetoolbar"_L1, QT_TRANSLATE_NOOP("ToolbarItems", "Customise"),

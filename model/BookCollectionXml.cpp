@@ -96,6 +96,11 @@ std::u16string bookCollectionXml(std::span<BookEntry* const> books, const Progre
     return xml;
 }
 
+ReadBooks readBookCollectionXml(QByteArrayView bytes, const Progress& progress)
+{
+    return readBookCollectionXml(bytes, progress, mostXmlBooks(bytes.size()));
+}
+
 ReadBooks readBookCollectionXml(
     QByteArrayView bytes, const Progress& progress, std::size_t mostBooks)
 {

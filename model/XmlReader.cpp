@@ -9,7 +9,6 @@
 #include <new>
 #include <optional>
 #include <type_traits>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -129,20 +128,18 @@ public:
 
     QByteArray converted(QByteArrayView piece, bool isLast)
     {
-        QString text = std::exchange(m_half, {});
-        text += QString(m_decoder(piece));
-        if (!isLast && !text.isEmpty() && text.back().isHighSurrogate()) {
-            m_half = text.back();
-            text.chop(1);
-        }
-        if (!text.isValidUtf16())
+        const QString text = m_decoder(piece);
+        // The encoder keeps the first half of a character that the end of a piece cuts in two.
+        QByteArray utf8 = m_encoder(text);
+        const bool isCutOff = isLast && !text.isEmpty() && text.back().isHighSurrogate();
+        if (m_encoder.hasError() || isCutOff)
             throw XmlError(u"half of a character"_s);
-        return text.toUtf8();
+        return utf8;
     }
 
 private:
     QStringDecoder m_decoder;
-    QString m_half; // the first half of a character that the end of a piece cut in two
+    QStringEncoder m_encoder{QStringConverter::Utf8};
 };
 
 /// The encoding, when it is one whose characters take two or four bytes.

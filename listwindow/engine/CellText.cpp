@@ -1,6 +1,8 @@
 #include "listwindow/engine/CellText.h"
 
+#include "document/DisplayNames.h"
 #include "listwindow/engine/ColumnKind.h"
+#include "model/MonthNames.h"
 
 #include <array>
 #include <charconv>
@@ -12,9 +14,6 @@ using namespace Qt::StringLiterals;
 namespace tomely {
 
 namespace {
-
-constexpr std::array monthNames = {"January"_L1, "February"_L1, "March"_L1, "April"_L1, "May"_L1,
-    "June"_L1, "July"_L1, "August"_L1, "September"_L1, "October"_L1, "November"_L1, "December"_L1};
 
 QString integerText(qint32 value)
 {
@@ -35,13 +34,6 @@ QString priceText(double value)
 }
 
 } // namespace
-
-QString monthName(qint32 month)
-{
-    if (month < 1 || month > static_cast<qint32>(monthNames.size()))
-        return {};
-    return monthNames.at(static_cast<std::size_t>(month - 1));
-}
 
 QString monthYearText(qint32 month, const QString& year)
 {
@@ -74,6 +66,19 @@ QString cellText(const BookEntry& book, qint32 columnKey, qsizetype row)
         return book.getTypeText();
     }
     return {};
+}
+
+QString displayCellText(const BookEntry& book, qint32 columnKey, qsizetype row)
+{
+    switch (columnKind(columnKey)) {
+    case ColumnKind::Date:
+        return displayDate(
+            monthField(columnKey)->integer(book), fieldOfColumn(columnKey)->text(book));
+    case ColumnKind::Type:
+        return displayType(book.getType());
+    default:
+        return cellText(book, columnKey, row);
+    }
 }
 
 } // namespace tomely

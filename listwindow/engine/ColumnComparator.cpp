@@ -1,5 +1,6 @@
 #include "listwindow/engine/ColumnComparator.h"
 
+#include "document/DisplayNames.h"
 #include "model/CaseFolding.h"
 #include "platform/LenientNumbers.h"
 
@@ -40,7 +41,7 @@ bool precedes(const ColumnEntry& left, const ColumnEntry& right)
     const ColumnClass rightClass = columnClass(right);
     if (leftClass != rightClass)
         return leftClass < rightClass;
-    return lessIgnoringCase(left.getSelectionName(), right.getSelectionName());
+    return lessIgnoringCase(displaySelectionName(left), displaySelectionName(right));
 }
 
 std::vector<const ColumnEntry*> sortedColumns(const ColumnDictionary& columns)

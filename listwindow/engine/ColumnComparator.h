@@ -10,7 +10,7 @@
 namespace tomely {
 
 /// True when `left` stands before `right`: a strict weak ordering. Columns of the same kind and the
-/// same selection name, ignoring case, stand together.
+/// same selection name in the person's language, ignoring case, stand together.
 bool precedes(const ColumnEntry& left, const ColumnEntry& right);
 
 /// All records in that order, and in the order of their keys where it leaves them together. The

@@ -39,7 +39,7 @@ CsvChoices CsvChoices::of(const UserDefaults& defaults)
 {
     CsvChoices choices;
     CsvOptions& options = choices.options;
-    choices.filterSelection = read(defaults, filterKey, FilterSelection::DisplayedBooks);
+    choices.filterSelection = read(defaults, filterKey, ExportFilter::DisplayedBooks);
     options.columnSelection = read(defaults, columnKey, CsvOptions::ColumnSelection::Visible);
     options.dateSelection = read(defaults, dateKey, CsvOptions::DateSelection::YearMonthDay);
     options.groupSelection = read(defaults, groupKey, CsvOptions::GroupSelection::Names);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "listwindow/engine/ExportFilter.h"
 #include "model/BookCsv.h"
 
 namespace tomely {
@@ -10,9 +11,7 @@ namespace tomely {
 class UserDefaults;
 
 struct CsvChoices {
-    enum class FilterSelection : qint32 { AllBooks = 0, DisplayedBooks = 1 };
-
-    FilterSelection filterSelection = FilterSelection::AllBooks;
+    ExportFilter filterSelection = ExportFilter::AllBooks;
     CsvOptions options;
 
     bool operator==(const CsvChoices&) const = default;

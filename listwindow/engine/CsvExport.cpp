@@ -12,6 +12,7 @@ namespace tomely {
 namespace {
 
 constexpr std::size_t booksBetweenReports = 1000;
+constexpr qsizetype usualLineUnits = 500; // a guess that spares most of the growing
 
 CsvColumns columnsOf(const BookListDocument& document)
 {
@@ -52,7 +53,9 @@ QString CsvExport::preview(qsizetype bookCount) const
 FileResult CsvExport::write(const QString& path, const Progress& progress) const
 {
     try {
-        QString text(1, QChar::ByteOrderMark);
+        QString text;
+        text.reserve(std::ssize(m_aExportableBookList) * usualLineUnits);
+        text.append(QChar::ByteOrderMark);
         appendLines(m_aExportableBookList, halfOf(progress, 0), text);
         const auto bytes = std::as_bytes(std::span(text.constData(), std::size_t(text.size())));
         return AtomicFile::write(

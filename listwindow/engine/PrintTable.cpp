@@ -15,10 +15,11 @@ QString printCellText(const std::vector<BookEntry*>& displayedBooks, qint32 colu
 {
     if (row == 0)
         return heading;
-    if (row == 1)
+    if (row == ruleRow)
         return QString(ruleLength, u'-');
     const qsizetype bookRow = row - printHeadingRows;
-    return cellText(*displayedBooks.at(static_cast<std::size_t>(bookRow)), columnKey, bookRow);
+    return displayCellText(
+        *displayedBooks.at(static_cast<std::size_t>(bookRow)), columnKey, bookRow);
 }
 
 } // namespace tomely

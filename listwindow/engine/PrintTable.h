@@ -14,6 +14,9 @@ namespace tomely {
 /// The heading and the rule above the books.
 inline constexpr qsizetype printHeadingRows = 2;
 
+/// The rule's row.
+inline constexpr qsizetype ruleRow = 1;
+
 /// How many rows the printed table of so many displayed books has.
 inline qsizetype printRowCount(qsizetype displayedBooks)
 {

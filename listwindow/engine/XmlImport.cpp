@@ -8,12 +8,19 @@
 #include <QCoreApplication>
 
 #include <limits>
+#include <new>
+#include <variant>
 
 using namespace Qt::StringLiterals;
 
 namespace tomely {
 
 namespace {
+
+QString notEnoughMemory()
+{
+    return QCoreApplication::translate("XmlImport", "There is not enough memory");
+}
 
 std::optional<QString> addBooks(BookListDocument& document, ReadBooks books)
 {
@@ -28,18 +35,32 @@ std::optional<QString> addBooks(BookListDocument& document, ReadBooks books)
     return std::nullopt;
 }
 
-std::optional<QString> addBooksOfFile(
-    BookListDocument& document, const QString& path, const Progress& progress)
+/// The books, or why there are none.
+std::variant<ReadBooks, QString> booksOfFile(const QString& path, const Progress& progress)
 {
-    const auto file = readWholeFile(path, halfOf(progress, 0));
-    if (const QString* const failure = std::get_if<QString>(&file))
-        return *failure;
     try {
-        return addBooks(
-            document, readBookCollectionXml(std::get<QByteArray>(file), halfOf(progress, 1)));
+        const auto file = readWholeFile(path, halfOf(progress, 0));
+        if (const QString* const failure = std::get_if<QString>(&file))
+            return *failure;
+        return readBookCollectionXml(std::get<QByteArray>(file), halfOf(progress, 1));
     } catch (const XmlError& error) {
         return QCoreApplication::translate("XmlImport", "not an XML file that can be read: %1")
             .arg(error.message());
+    } catch (const std::bad_alloc&) {
+        return notEnoughMemory();
+    }
+}
+
+std::optional<QString> addBooksOfFile(
+    BookListDocument& document, const QString& path, const Progress& progress)
+{
+    auto books = booksOfFile(path, progress);
+    if (const QString* const failure = std::get_if<QString>(&books))
+        return *failure;
+    try {
+        return addBooks(document, std::get<ReadBooks>(std::move(books)));
+    } catch (const std::bad_alloc&) {
+        return notEnoughMemory();
     }
 }
 

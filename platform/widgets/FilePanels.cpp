@@ -31,12 +31,27 @@ QFileDialog* makePanel(QWidget* window, const FileType& type)
     return panel;
 }
 
+/// A path by which the desktop lets a confined program (a Flatpak) reach the one file that was
+/// chosen. A file of another name beside it would be lost.
+bool isGrantedPath(const QString& path)
+{
+    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !runtimeFolder.isEmpty() && path.startsWith(runtimeFolder + "/doc/"_L1);
+}
+
+bool isConfined()
+{
+    return QFileInfo::exists(u"/.flatpak-info"_s);
+}
+
 } // namespace
 
 QString withExtension(const QString& path, const FileType& type)
 {
     const QString ending = u'.' + type.extension;
-    return path.isEmpty() || path.endsWith(ending, Qt::CaseInsensitive) ? path : path + ending;
+    const bool staysAsItIs =
+        path.isEmpty() || path.endsWith(ending, Qt::CaseInsensitive) || isGrantedPath(path);
+    return staysAsItIs ? path : path + ending;
 }
 
 QString DesktopFilePanels::runModalOpenPanel(const FileType& type, const QString& folder)
@@ -44,10 +59,12 @@ QString DesktopFilePanels::runModalOpenPanel(const FileType& type, const QString
     return QFileDialog::getOpenFileName(nullptr, {}, folder, nameFilter(type));
 }
 
-void DesktopFilePanels::beginOpenPanel(
-    QWidget* window, const FileType& type, std::function<void(const QStringList& paths)> picked)
+void DesktopFilePanels::beginOpenPanel(QWidget* window, const FileType& type,
+    std::function<void(const QStringList& paths)> picked, const QString& folder)
 {
     QFileDialog* const panel = makePanel(window, type);
+    if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        panel->setDirectory(folder);
     panel->setFileMode(
         type.furtherExtensions.isEmpty() ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     panel->setAcceptMode(QFileDialog::AcceptOpen);
@@ -65,7 +82,8 @@ void DesktopFilePanels::beginSavePanel(QWidget* window, const FileType& type,
     QFileDialog* const panel = makePanel(window, type);
     panel->setFileMode(QFileDialog::AnyFile);
     panel->setAcceptMode(QFileDialog::AcceptSave);
-    panel->setDefaultSuffix(type.extension);
+    if (!isConfined())
+        panel->setDefaultSuffix(type.extension);
     const QFileInfo suggested(suggestedPath);
     if (suggested.isAbsolute())
         panel->setDirectory(suggested.absolutePath());

@@ -33,9 +33,10 @@ public:
     virtual QString runModalOpenPanel(const FileType& type, const QString& folder) = 0;
 
     /// Opens a panel for existing files on `window` (or for itself) and returns at once. `picked`
-    /// gets the paths; it is not called when the panel is cancelled.
+    /// gets the paths; it is not called when the panel is cancelled. Starts in `folder`, or in the
+    /// folder used last when that is empty or gone.
     virtual void beginOpenPanel(QWidget* window, const FileType& type,
-        std::function<void(const QStringList& paths)> picked) = 0;
+        std::function<void(const QStringList& paths)> picked, const QString& folder = {}) = 0;
 
     /// Opens a panel for a file to write, with `suggestedPath` filled in. `picked` gets a path that
     /// ends with the type's extension and may be replaced, or an empty one when the panel is
@@ -44,7 +45,8 @@ public:
         std::function<void(const QString& path)> picked) = 0;
 };
 
-/// `path` with the extension of `type`, added when it is missing.
+/// `path` with the extension of `type`, added when it is missing; a path that the desktop granted
+/// to a confined program stays as it is.
 QString withExtension(const QString& path, const FileType& type);
 
 /// The desktop's own panels.
@@ -55,7 +57,7 @@ public:
 
     QString runModalOpenPanel(const FileType& type, const QString& folder) override;
     void beginOpenPanel(QWidget* window, const FileType& type,
-        std::function<void(const QStringList& paths)> picked) override;
+        std::function<void(const QStringList& paths)> picked, const QString& folder = {}) override;
     void beginSavePanel(QWidget* window, const FileType& type, const QString& suggestedPath,
         std::function<void(const QString& path)> picked) override;
 

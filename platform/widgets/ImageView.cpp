@@ -1,5 +1,7 @@
 #include "platform/widgets/ImageView.h"
 
+#include "platform/widgets/Accessibility.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -25,6 +27,11 @@ QRectF fittedRect(QSize image, const QRectF& place, double largest)
     QRectF rect(QPointF(), QSizeF(image) * scale);
     rect.moveCenter(place.center());
     return rect;
+}
+
+ImageView::ImageView(QWidget* parent) : QWidget(parent)
+{
+    setAccessibleRole(*this, QAccessible::Graphic);
 }
 
 void ImageView::setImage(const QImage& image)

@@ -15,7 +15,7 @@ public:
     /// A picture is shown at most this many times its size, in points.
     static constexpr double largestEnlargement = 2;
 
-    explicit ImageView(QWidget* parent = nullptr) : QWidget(parent) { }
+    explicit ImageView(QWidget* parent = nullptr);
 
     /// A null image shows nothing.
     void setImage(const QImage& image);

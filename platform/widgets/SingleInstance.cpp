@@ -122,9 +122,12 @@ SingleInstance::~SingleInstance()
 QString SingleInstance::defaultSocketPath()
 {
     // Where the desktop has none, this is a private folder in the one for temporary files.
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (folder.isEmpty())
         return {};
+    // Each start of a Flatpak has a runtime folder of its own, with one in it that they share.
+    if (const QString id = qEnvironmentVariable("FLATPAK_ID"); !id.isEmpty())
+        folder += "/app/"_L1 + id;
     // A hash, because a display's name may hold slashes and a socket's path must be short.
     const QByteArray session = QByteArray::number(::getuid()) + ' ' + sessionName();
     const QByteArray hash =

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void appliesTheChoices();
 
     void replacesTheFile();
+    void replacesTheCollection();
     void refuses_data();
     void refuses();
     void tellsFailures();
@@ -177,6 +178,14 @@ void CsvCommandTest::replacesTheFile()
 {
     QVERIFY(writeBytes(path(u"o.csv"_s), QByteArray(100'000, 'x')));
     QCOMPARE(exported({u"--columns=visible"_s, u"--group=9"_s}), {u"\uFEFFTitle,Author"_s});
+}
+
+void CsvCommandTest::replacesTheCollection()
+{
+    exported({});
+    const QString file = path(u"s.books"_s);
+    QCOMPARE(runProgram({u"export-csv"_s, file, file}).status, 0);
+    QCOMPARE(fileBytes(file), fileBytes(path(u"o.csv"_s)));
 }
 
 void CsvCommandTest::refuses_data()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void exportsAllBooks();
     void exportsTheDisplayedBooks_data();
     void exportsTheDisplayedBooks();
+    void exportsOverTheCollection();
     void refusesAViewBeforeItWorks();
     void leavesOutAloneWhenExportingFails();
 
@@ -114,6 +115,13 @@ void XmlCommandsTest::exportsTheDisplayedBooks()
     succeeds(QStringList{u"export-xml"_s, m_file, m_xml} + view);
     QCOMPARE(titles(m_xml), books);
     QCOMPARE(fileBytes(m_file), before);
+}
+
+void XmlCommandsTest::exportsOverTheCollection()
+{
+    succeeds({u"export-xml"_s, m_file, m_xml});
+    succeeds({u"export-xml"_s, m_file, m_file});
+    QCOMPARE(fileBytes(m_file), fileBytes(m_xml));
 }
 
 void XmlCommandsTest::refusesAViewBeforeItWorks()

@@ -8,6 +8,7 @@
 #include "tests/support/BookSamples.h"
 #include "tests/support/FakeAlerts.h"
 #include "tests/support/FakeBookListWindow.h"
+#include "tests/support/FakeFilePanels.h"
 #include "tests/support/PlainPictures.h"
 #include "tests/support/SmallCollection.h"
 
@@ -90,6 +91,7 @@ private:
     FakeAlerts m_alerts;
     QTemporaryDir m_folder;
     UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
+    FakeFilePanels m_panels;
     ToolbarConfiguration m_toolbar{m_defaults};
     QWidget m_window;
     FakeBookListWindow* m_list = nullptr;
@@ -108,7 +110,7 @@ void BookCommandsTest::init()
     m_newFrames.clear();
     m_alerts.sheets.clear();
     m_commands = std::make_unique<BookCommands>(*m_document,
-        ListWindowServices{m_alerts, m_defaults, m_toolbar,
+        ListWindowServices{m_alerts, m_defaults, m_panels, m_toolbar,
             [this](BookListDocument& document, QRect frame) {
                 m_newFrames.append(frame);
                 return std::make_unique<FakeEditor>(document, QString());

@@ -7,6 +7,7 @@
 #include "platform/widgets/ImageView.h"
 #include "platform/widgets/Waiting.h"
 #include "tests/support/FakeAlerts.h"
+#include "tests/support/FakeFilePanels.h"
 #include "tests/support/Files.h"
 #include "tests/support/PlainPictures.h"
 #include "tests/support/SmallCollection.h"
@@ -99,6 +100,7 @@ private:
     FakeAlerts m_alerts;
     QTemporaryDir m_folder;
     UserDefaults m_defaults{m_folder.filePath(u"Tomely.ini"_s)};
+    FakeFilePanels m_panels;
     ToolbarConfiguration m_toolbar{m_defaults};
     std::unique_ptr<BookListDocument> m_document;
     BookListWindowController* m_controller = nullptr; // owned by the document
@@ -106,14 +108,14 @@ private:
 
 void BookListWindowControllerTest::init()
 {
-    m_document = std::make_unique<BookListDocument>(
-        BookListServices{nullptr, nullptr, [this](BookListDocument& document) {
-                             auto window = std::make_unique<BookListWindowController>(document,
-                                 ListWindowServices{m_alerts, m_defaults, m_toolbar, {}, {}});
-                             m_controller = window.get();
-                             document.addWindowController(std::move(window));
-                             return m_controller;
-                         }});
+    m_document = std::make_unique<BookListDocument>(BookListServices{
+        nullptr, nullptr, [this](BookListDocument& document) {
+            auto window = std::make_unique<BookListWindowController>(
+                document, ListWindowServices{m_alerts, m_defaults, m_panels, m_toolbar, {}, {}});
+            m_controller = window.get();
+            document.addWindowController(std::move(window));
+            return m_controller;
+        }});
     samples::addFourBooks(*m_document);
 }
 
@@ -472,7 +474,9 @@ void BookListWindowControllerTest::takesNoCommandMeanwhile()
     QFETCH(const QString, command);
     QFETCH(const bool, isWaiting);
     makeWindow();
-    m_controller->addCommandMenus(*m_controller->window()->menuBar());
+    QMenuBar& menuBar = *m_controller->window()->menuBar();
+    m_controller->addFileCommands(*menuBar.addMenu(u"File"_s));
+    m_controller->addCommandMenus(menuBar);
     m_alerts.sheets.clear();
     m_controller->filter().m_strFilter = u"x"_s;
     table().setFocus();

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void hasARowForEachDisplayedBook();
     void followsAReload();
     void showsTheTextOfEachCell();
+    void saysMarksInWords();
     void isHeadedByTheColumnsNames();
     void centersWhatTheCatalogueCenters();
     void findsColumnsByTheirKeys();
@@ -91,6 +92,17 @@ void BookTableModelTest::showsTheTextOfEachCell()
     QVERIFY(!m_model->index(0, 0).data(Qt::EditRole).isValid());
     QVERIFY(!m_model->data({}, Qt::DisplayRole).isValid());
     QVERIFY(!(m_model->index(0, 0).flags() & Qt::ItemIsEditable));
+}
+
+void BookTableModelTest::saysMarksInWords()
+{
+    m_displayed.front()->setSigned(true);
+    const auto said = [this](int row, qint32 key) {
+        return m_model->index(row, m_model->columnOfKey(key)).data(Qt::AccessibleTextRole);
+    };
+    QCOMPARE(said(0, 20).toString(), u"yes"_s);
+    QCOMPARE(said(1, 20).toString(), u"no"_s);
+    QCOMPARE(said(1, 0).toString(), m_displayed.at(1)->getTitle());
 }
 
 void BookTableModelTest::isHeadedByTheColumnsNames()

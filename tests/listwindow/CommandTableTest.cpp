@@ -30,7 +30,7 @@ void CommandTableTest::listsCommandsInTheOrderOfTheirNumbers()
         QCOMPARE(static_cast<int>(row.id), number++);
         QCOMPARE(command(row.id).name, row.name);
     }
-    QCOMPARE(number, static_cast<int>(CommandId::ClearFilter) + 1);
+    QCOMPARE(number, static_cast<int>(CommandId::Print) + 1);
 }
 
 void CommandTableTest::hasEachCommand_data()
@@ -59,6 +59,11 @@ void CommandTableTest::hasEachCommand_data()
     row("customizeToolbar", CustomizeToolbar, u"Customise &Toolbar…"_s, {}, Always);
     row("find", Find, u"&Find"_s, u"Ctrl+F"_s, Always);
     row("clearFilter", ClearFilter, u"Clear &Filter"_s, {}, Always);
+    row("importXML", ImportXML, u"&Import XML…"_s, {}, Always);
+    row("exportXML", ExportXML, u"Export &XML…"_s, {}, Always);
+    row("exportCSV", ExportCSV, u"&Export CSV…"_s, {}, Always);
+    row("printPreview", PrintPreview, u"Print Previe&w…"_s, {}, Always);
+    row("print", Print, u"&Print…"_s, u"Ctrl+P"_s, Always);
 }
 
 void CommandTableTest::hasEachCommand()

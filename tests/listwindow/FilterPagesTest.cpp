@@ -29,7 +29,6 @@ private Q_SLOTS:
     void keepsWhatOtherPagesHold();
     void offersTaggedChoices_data();
     void offersTaggedChoices();
-    void namesMonthsInTheLocale();
     void actsAtEveryKey_data();
     void actsAtEveryKey();
     void readsNumbersLeniently();
@@ -181,13 +180,6 @@ void FilterPagesTest::offersTaggedChoices()
         QCOMPARE(box.itemData(index).toInt(), index);
     }
     QTEST(titles, "titles");
-}
-
-void FilterPagesTest::namesMonthsInTheLocale()
-{
-    m_desk->makeBar(QLocale(u"de_DE"_s));
-    const auto& months = control<QComboBox>(*m_desk->bar, u"m_idFilter_DateMonthDropDown"_s);
-    QCOMPARE(months.itemText(3), u"März"_s);
 }
 
 void FilterPagesTest::actsAtEveryKey_data()

@@ -37,6 +37,7 @@ void ToolbarItemsTest::hasAnItemForACommand_data()
     QTest::newRow("removeFromGroup") << u"Remove"_s << CommandId::RemoveFromGroup;
     QTest::newRow("addgroup") << u"Add Group"_s << CommandId::AddGroup;
     QTest::newRow("deletegroup") << u"Delete Group"_s << CommandId::DeleteGroup;
+    QTest::newRow("print") << u"Print"_s << CommandId::Print;
     QTest::newRow("customizelist") << u"Columns"_s << CommandId::CustomizeList;
     QTest::newRow("customizetoolbar") << u"Customise"_s << CommandId::CustomizeToolbar;
 }
@@ -96,8 +97,8 @@ void ToolbarItemsTest::offersTheAllowedSet()
         identifiers.append(item.identifier);
     QCOMPARE(identifiers,
         QStringList({u"addbook"_s, u"editbook"_s, u"deletebook"_s, u"removeFromGroup"_s,
-            u"customizelist"_s, u"addgroup"_s, u"deletegroup"_s, u"search"_s, u"flexiblespace"_s,
-            u"customizetoolbar"_s, u"space"_s, u"separator"_s}));
+            u"customizelist"_s, u"addgroup"_s, u"deletegroup"_s, u"search"_s, u"print"_s,
+            u"flexiblespace"_s, u"customizetoolbar"_s, u"space"_s, u"separator"_s}));
 }
 
 void ToolbarItemsTest::hasADefaultSet()

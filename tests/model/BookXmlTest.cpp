@@ -256,6 +256,7 @@ void BookXmlTest::readsTexts_data()
     QTest::addColumn<QString>("title");
     QTest::newRow("plain") << "<Title>Emma</Title>"_ba << u"Emma"_s;
     QTest::newRow("blanks stay") << "<Title> Emma\n </Title>"_ba << u" Emma\n "_s;
+    QTest::newRow("byte-order mark") << u"<Title>\uFEFFEmma</Title>"_s.toUtf8() << u"\uFEFFEmma"_s;
     QTest::newRow("missing") << ""_ba << u""_s;
     QTest::newRow("empty") << "<Title></Title>"_ba << u""_s;
     QTest::newRow("short") << "<Title/>"_ba << u""_s;
@@ -291,6 +292,8 @@ void BookXmlTest::readsIntegers_data()
     QTest::newRow("blanks and garbage") << "<Pages> \n-12 pages</Pages>"_ba << -12;
     QTest::newRow("words") << "<Pages>many</Pages>"_ba << 0;
     QTest::newRow("fraction") << "<Pages>3.9</Pages>"_ba << 3;
+    QTest::newRow("many blanks") << "<Pages>" + QByteArray(1000, ' ') + "7</Pages>" << 7;
+    QTest::newRow("other script") << u"<Pages>\u0664 4</Pages>"_s.toUtf8() << 0;
     QTest::newRow("too large") << "<Pages>99999999999</Pages>"_ba << 2147483647;
     QTest::newRow("two") << "<Pages>1</Pages><Pages>1</Pages>"_ba << 0;
     QTest::newRow("missing") << ""_ba << 0;

@@ -62,6 +62,8 @@ public:
         return layout;
     }
 
+    void printDocument() override { note(QStringLiteral("printDocument")); }
+
     void addNewBook(QRect frame) override
     {
         addedFrame = frame;

@@ -17,9 +17,9 @@ public:
     }
 
     void beginOpenPanel(QWidget* window, const FileType& type,
-        std::function<void(const QStringList& paths)> answered) override
+        std::function<void(const QStringList& paths)> answered, const QString& folder = {}) override
     {
-        openPanels.append({window, type, std::move(answered)});
+        openPanels.append({window, type, std::move(answered), folder});
     }
 
     void beginSavePanel(QWidget* window, const FileType& type, const QString& suggestedPath,
@@ -37,6 +37,7 @@ public:
         QWidget* window;
         FileType type;
         std::function<void(const QStringList& paths)> picked; // not called: the panel is cancelled
+        QString folder;
     };
 
     struct SavePanel {

@@ -1,6 +1,7 @@
 #include "listwindow/engine/CellText.h"
 
 #include "listwindow/engine/ColumnKind.h"
+#include "model/MonthNames.h"
 #include "tests/support/BookSamples.h"
 
 #include <QLocale>

@@ -24,7 +24,7 @@ private Q_SLOTS:
     void remembersEveryChoice()
     {
         CsvChoices choices;
-        choices.filterSelection = CsvChoices::FilterSelection::DisplayedBooks;
+        choices.filterSelection = ExportFilter::DisplayedBooks;
         choices.options = {CsvOptions::ColumnSelection::Visible,
             CsvOptions::DateSelection::YearMonthDay, CsvOptions::GroupSelection::Names, u" | "_s,
             CsvOptions::CheckboxSelection::YesNo, CsvOptions::ISBNSelection::None,

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void writesTheGivenBooksInTheirOrder();
     void takesLabelsAndVisibilityOfTheDocument();
     void putsGroupCellsUnderTheirLabels();
+    void readsGroupKeysAsNumbers();
     void previewsTheBeginning();
 
     void tellsHowFarItIs();
@@ -177,6 +178,26 @@ void CsvExportTest::putsGroupCellsUnderTheirLabels()
     book.addToGroup(u"1"_s);
     QCOMPARE(CsvExport(document, books, options).preview(1),
         u"Title,Author,Groups\nt,a,art;Fiction;Zoo\n"_s);
+}
+
+// A key that is no number reads as 0, the group that every book is in.
+void CsvExportTest::readsGroupKeysAsNumbers()
+{
+    BookListDocument document;
+    document.getGroups() = {};
+    for (const QString& key : {u"odd"_s, u"7th"_s}) {
+        GroupEntry group;
+        group.setKeyText(key);
+        group.setGroupName(key);
+        document.getGroups().insert(group);
+    }
+    samples::addBook(document, u"t"_s, u"a"_s, u"7"_s);
+    samples::addBook(document, u"u"_s, u"b"_s);
+    const std::vector<BookEntry*> books = document.allValues();
+    CsvOptions options = visibleColumns();
+    options.groupSelection = CsvOptions::GroupSelection::Flags;
+    QCOMPARE(CsvExport(document, books, options).preview(2),
+        u"Title,Author,Group: 7th,Group: odd\nt,a,Y,Y\nu,b,N,Y\n"_s);
 }
 
 void CsvExportTest::previewsTheBeginning()

@@ -97,6 +97,8 @@ void FilePanelsTest::addsTheExtensionWhereItIsMissing_data()
     QTest::newRow("another") << u"/a/Library.txt"_s << u"/a/Library.txt.books"_s;
     QTest::newRow("without the dot") << u"/a/books"_s << u"/a/books.books"_s;
     QTest::newRow("cancelled") << u""_s << u""_s;
+    const QString granted = qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/doc/1a2b3c/Library"_s;
+    QTest::newRow("of a name that the desktop granted") << granted << granted;
 }
 
 void FilePanelsTest::addsTheExtensionWhereItIsMissing()

@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "app/CollectionFileType.h"
+#include "app/Help.h"
 #include "app/MainMenu.h"
 #include "app/WindowMenu.h"
 #include "document/BookListDocument.h"
@@ -15,6 +16,8 @@
 #include <QTimer>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace tomely {
 
@@ -45,6 +48,8 @@ Application::Application(
         &Application::showStartWindowWhenAlone);
     connect(qApp, &QGuiApplication::commitDataRequest, this, &Application::askBeforeLogout,
         Qt::DirectConnection);
+    connect(&m_startWindow, &StartWindow::preferencesRequested, this,
+        [this] { preferences().showWindow(); });
     connect(&m_startWindow, &StartWindow::closedByUser, qApp, &QApplication::quit);
 }
 
@@ -67,6 +72,34 @@ void Application::openForOtherStart(const QStringList& files)
         return comeForward();
     for (const QString& file : files)
         m_documents.openDocument(file);
+}
+
+void Application::keepDesktopRecents()
+{
+    m_desktopRecents = std::make_unique<DesktopRecents>(
+        DesktopRecents::Program{u"Tomely"_s, u"tomely %f"_s, u"application/x-tomely-collection"_s});
+    connect(&m_documents, &DocumentController::recentDocumentsChanged, this,
+        &Application::noteRecents, Qt::UniqueConnection);
+}
+
+void Application::noteRecents()
+{
+    const QStringList paths = m_documents.recentDocuments(); // the one just used is the first
+    if (paths.isEmpty())
+        m_desktopRecents->clear();
+    else
+        m_desktopRecents->note(paths.first());
+}
+
+PreferencesController& Application::preferences()
+{
+    // Made when they are first asked for: the program starts without.
+    if (!m_preferences) {
+        m_preferences = std::make_unique<PreferencesController>(m_defaults, m_panels);
+        connect(m_preferences.get(), &PreferencesController::quitRequested, this,
+            [this] { quit(m_documents); });
+    }
+    return *m_preferences;
 }
 
 void Application::comeForward()
@@ -118,7 +151,11 @@ BookListWindow* Application::makeWindow(BookListDocument& document)
 {
     auto controller = std::make_unique<BookListWindowController>(document, listWindowServices());
     QMainWindow& mainWindow = *controller->window();
-    addFileMenu(mainWindow, document, m_documents);
+    addFileMenu(mainWindow, document, m_documents,
+        {[&list = *controller](QMenu& menu) { list.addFileCommands(menu); },
+            [this] {
+                preferences().showWindow();
+            }});
     controller->addCommandMenus(*mainWindow.menuBar());
     addWindowMenu(mainWindow, m_documents);
     addHelpMenu(mainWindow);
@@ -131,9 +168,10 @@ ListWindowServices Application::listWindowServices()
 {
     const auto withWindowMenu = [this](std::unique_ptr<BookEntryWindowController> editor) {
         addWindowMenu(*editor->window(), m_documents);
+        addHelpKey(*editor->window());
         return editor;
     };
-    return {m_alerts, m_defaults, m_toolbar,
+    return {m_alerts, m_defaults, m_panels, m_toolbar,
         [this, withWindowMenu](BookListDocument& document, QRect frame) {
             return withWindowMenu(
                 BookEntryWindowController::initWithRect(frame, document, editorServices()));

@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include "app/PreferencesController.h"
 #include "app/StartWindow.h"
 #include "app/TomelyDelegate.h"
 #include "editor/SpellChecker.h"
 #include "listwindow/ToolbarConfiguration.h"
+#include "platform/DesktopRecents.h"
 #include "platform/network/UrlFetch.h"
 #include "platform/widgets/DocumentController.h"
 
@@ -36,9 +38,16 @@ public:
     /// Opens files for another start of the program; without files it comes forward.
     void openForOtherStart(const QStringList& files);
 
+    /// From now on the desktop's list of recent files learns what is opened and saved, and what is
+    /// cleared from the menu.
+    void keepDesktopRecents();
+
     DocumentController& documents() { return m_documents; }
 
     StartWindow& startWindow() { return m_startWindow; }
+
+    /// The window of the preferences, the only one of the program.
+    PreferencesController& preferences();
 
 private:
     std::unique_ptr<Document> makeDocument();
@@ -49,6 +58,7 @@ private:
     void askBeforeLogout(QSessionManager& session);
     void askAndQuit();
     void showStartWindowWhenAlone();
+    void noteRecents();
 
     UserDefaults& m_defaults;
     Alerts& m_alerts;
@@ -59,6 +69,8 @@ private:
     DocumentController m_documents;
     TomelyDelegate m_delegate;
     StartWindow m_startWindow;
+    std::unique_ptr<PreferencesController> m_preferences;
+    std::unique_ptr<DesktopRecents> m_desktopRecents; // once they are kept
 };
 
 } // namespace tomely

@@ -1,6 +1,7 @@
 #include "app/StartWindow.h"
 
 #include "app/MainMenu.h"
+#include "platform/widgets/Accessibility.h"
 #include "platform/widgets/DocumentController.h"
 
 #include <QApplication>
@@ -32,6 +33,7 @@ QPushButton* addButton(
 QLayout* makeHeading()
 {
     auto* const icon = new QLabel;
+    icon->setAccessibleName(u"Tomely"_s);
     icon->setPixmap(QApplication::windowIcon().pixmap(headingIconSize, headingIconSize));
     auto* const name = new QLabel(u"Tomely"_s);
     QFont font = name->font();
@@ -58,6 +60,7 @@ QLayout* makeHeading()
 StartWindow::StartWindow(DocumentController& documents) : m_documents(documents)
 {
     setObjectName("startWindow"_L1);
+    setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(u"Tomely"_s);
     auto* const buttons = new QVBoxLayout;
     buttons->setSpacing(8);
@@ -65,11 +68,14 @@ StartWindow::StartWindow(DocumentController& documents) : m_documents(documents)
         addButton(*buttons, "newCollection"_L1, tr("&New Collection"), "document-new"_L1);
     QPushButton* const open =
         addButton(*buttons, "openCollection"_L1, tr("&Open…"), "document-open"_L1);
+    QPushButton* const preferences =
+        addButton(*buttons, "preferences"_L1, tr("&Preferences…"), "preferences-system"_L1);
     buttons->addStretch();
     QPushButton* const quit = addButton(*buttons, "quit"_L1, tr("&Quit"), "application-exit"_L1);
 
     m_recent = new QListWidget;
     m_recent->setObjectName("recentCollections"_L1);
+    m_recent->setAccessibleName(tr("Recent collections"));
     m_recent->setAlternatingRowColors(true);
     auto* const caption = new QLabel(tr("&Recent collections"));
     caption->setBuddy(m_recent);
@@ -91,6 +97,7 @@ StartWindow::StartWindow(DocumentController& documents) : m_documents(documents)
 
     connect(make, &QPushButton::clicked, this, [this] { m_documents.newDocument(); });
     connect(open, &QPushButton::clicked, this, [this] { m_documents.openWithPanel(this); });
+    connect(preferences, &QPushButton::clicked, this, &StartWindow::preferencesRequested);
     connect(quit, &QPushButton::clicked, this, &StartWindow::close);
     connect(m_recent, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         if (item->flags() & Qt::ItemIsEnabled)
@@ -133,6 +140,8 @@ void StartWindow::keyPressEvent(QKeyEvent* event)
     if (shortcutsFor(QKeySequence::Quit).contains(pressed)
         || shortcutsFor(QKeySequence::Close).contains(pressed))
         close();
+    else if (shortcutsFor(QKeySequence::Preferences).contains(pressed))
+        Q_EMIT preferencesRequested();
     else
         QWidget::keyPressEvent(event);
 }

@@ -25,6 +25,8 @@ Q_SIGNALS:
     /// The person closed the window, which means to quit.
     void closedByUser();
 
+    void preferencesRequested();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

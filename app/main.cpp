@@ -2,6 +2,7 @@
 
 #include "app/Application.h"
 #include "app/FirstPicture.h"
+#include "app/Languages.h"
 #include "listwindow/BookListWindowController.h"
 #include "platform/Document.h"
 #include "platform/UserDefaults.h"
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <QLocale>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -74,6 +76,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationVersion(QLatin1StringView(TOMELY_VERSION));
     QApplication::setDesktopFileName(u"tomely"_s);
     QApplication::setWindowIcon(QIcon::fromTheme("tomely"_L1, QIcon(u":/icons/tomely.svg"_s)));
+    tomely::translateTexts(application, QLocale().uiLanguages());
     const Options options = parseArguments(application);
 
     tomely::MessageBoxAlerts alerts;
@@ -95,6 +98,8 @@ int main(int argc, char* argv[])
     tomely::UserDefaults defaults;
     tomely::DesktopFilePanels panels(alerts);
     tomely::Application program(defaults, alerts, panels);
+    if (options.picture.isEmpty())
+        program.keepDesktopRecents();
     QObject::connect(&instance, &tomely::SingleInstance::filesRequested, &program,
         &tomely::Application::openForOtherStart);
     // From the event loop, so that a question that comes up at once can be answered.

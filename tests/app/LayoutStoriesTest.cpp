@@ -58,6 +58,8 @@ private Q_SLOTS:
     void findsEverythingAsItWas();
     void keepsTheFrameFromRoundToRound();
     void usesTheStoredFrame();
+    void comesBackFromAScreenThatIsGone_data();
+    void comesBackFromAScreenThatIsGone();
     void ignoresAFrameThatIsTooNarrow();
     void survivesPanesOfDamagedFiles_data();
     void survivesPanesOfDamagedFiles();
@@ -231,6 +233,30 @@ void LayoutStoriesTest::usesTheStoredFrame()
     QTRY_COMPARE(window.window().frameGeometry(), QRect(300, 200, 900, 600));
     QTRY_COMPARE(window.controller().getListSplitter()->sizes().first(), 300);
     QTRY_COMPARE(window.controller().getImageSplitter()->sizes().last(), 250);
+    QVERIFY(!window.document().isDocumentEdited());
+}
+
+void LayoutStoriesTest::comesBackFromAScreenThatIsGone_data()
+{
+    QTest::addColumn<QPoint>("away"); // by how many screens, downwards positive
+    QTest::newRow("right") << QPoint(1, 0);
+    QTest::newRow("left") << QPoint(-1, 0);
+    QTest::newRow("above") << QPoint(0, -1);
+    QTest::newRow("below") << QPoint(0, 1);
+    QTest::newRow("far") << QPoint(7, 7);
+}
+
+void LayoutStoriesTest::comesBackFromAScreenThatIsGone()
+{
+    QFETCH(const QPoint, away);
+    ProgramOnScreen program;
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const QRect frame(100 + away.x() * screen.width(), 80 + away.y() * screen.height(), 900, 600);
+    const QRectF stored(frame.x(), screen.height() - 600 - frame.y(), 900, 600);
+    const CollectionWindow window = program.open(fileWithLayout(program, {stored, {}, {}}));
+    QTRY_VERIFY(hasTitleBar(window.window()));
+    QTRY_COMPARE(window.window().frameGeometry().size(), QSize(900, 600));
+    QTRY_VERIFY(screen.contains(window.window().frameGeometry()));
     QVERIFY(!window.document().isDocumentEdited());
 }
 

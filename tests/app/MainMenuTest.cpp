@@ -21,10 +21,16 @@ struct MenuDesk : DocumentDesk {
     QMainWindow& windowWithMenus(Document& document)
     {
         auto& window = static_cast<QMainWindow&>(*windowOf(document));
-        addFileMenu(window, document, controller);
+        addFileMenu(window, document, controller,
+            {[](QMenu&) {},
+                [this] {
+                    ++preferencesShown;
+                }});
         addHelpMenu(window);
         return window;
     }
+
+    int preferencesShown = 0;
 };
 
 QAction* action(const QMainWindow& window, const QString& name)
@@ -72,6 +78,7 @@ private Q_SLOTS:
     void hasTheUsualShortcuts_data();
     void hasTheUsualShortcuts();
     void speaksToTheDocuments();
+    void showsThePreferences();
     void savesTheDocumentOfItsWindow();
     void revertsOnlyWhatHasAFile();
     void closesTheDocumentOfItsWindow();
@@ -106,6 +113,7 @@ void MainMenuTest::hasTheUsualShortcuts_data()
     QTest::newRow("Open") << u"openCollection"_s << QKeySequence(Qt::CTRL | Qt::Key_O);
     QTest::newRow("Save") << u"save"_s << QKeySequence(Qt::CTRL | Qt::Key_S);
     QTest::newRow("Save As") << u"saveAs"_s << QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    QTest::newRow("Preferences") << u"preferences"_s << QKeySequence(Qt::CTRL | Qt::Key_Comma);
     QTest::newRow("Close") << u"closeWindow"_s << QKeySequence(Qt::CTRL | Qt::Key_W);
     QTest::newRow("Quit") << u"quit"_s << QKeySequence(Qt::CTRL | Qt::Key_Q);
 }
@@ -128,6 +136,14 @@ void MainMenuTest::speaksToTheDocuments()
     action(window, u"openCollection"_s)->trigger();
     QCOMPARE(desk.panels.openPanels.size(), 1);
     QCOMPARE(desk.panels.openPanels.first().window, &window);
+}
+
+void MainMenuTest::showsThePreferences()
+{
+    MenuDesk desk;
+    QMainWindow& window = desk.windowWithMenus(*desk.controller.newDocument());
+    action(window, u"preferences"_s)->trigger();
+    QCOMPARE(desk.preferencesShown, 1);
 }
 
 void MainMenuTest::savesTheDocumentOfItsWindow()

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void opensARecentCollection_data();
     void opensARecentCollection();
     void cannotOpenARecentCollectionThatIsGone();
+    void asksForThePreferences_data();
+    void asksForThePreferences();
     void closesToQuit_data();
     void closesToQuit();
     void canBeUsedByKeyboard();
@@ -123,6 +125,29 @@ void StartWindowTest::cannotOpenARecentCollectionThatIsGone()
     QVERIFY(desk.alerts.modals.isEmpty());
 }
 
+void StartWindowTest::asksForThePreferences_data()
+{
+    QTest::addColumn<QString>("focus");
+    QTest::newRow("the button itself") << u""_s;
+    QTest::newRow("keys on a button") << u"quit"_s;
+    QTest::newRow("keys in the list") << u"recentCollections"_s;
+}
+
+void StartWindowTest::asksForThePreferences()
+{
+    QFETCH(const QString, focus);
+    StartDesk desk;
+    desk.controller.close(*desk.controller.openDocument(desk.file(u"Emma.books"_s)));
+    QSignalSpy asked(&desk.window, &StartWindow::preferencesRequested);
+    desk.window.present();
+    if (focus.isEmpty())
+        desk.press(u"preferences"_s);
+    else
+        QTest::keyClick(desk.window.findChild<QWidget*>(focus), Qt::Key_Comma, Qt::ControlModifier);
+    QCOMPARE(asked.size(), 1);
+    QVERIFY(desk.window.isVisible());
+}
+
 void StartWindowTest::closesToQuit_data()
 {
     QTest::addColumn<int>("way");
@@ -170,6 +195,15 @@ void StartWindowTest::canBeUsedByKeyboard()
         QVERIFY(button->focusPolicy() & Qt::TabFocus);
     }
     QCOMPARE(letters.size(), buttons.size());
+    QStringList order;
+    const QWidget* next = &desk.window;
+    while ((next = next->nextInFocusChain()) != &desk.window) {
+        if (next->focusPolicy() & Qt::TabFocus)
+            order.append(next->objectName());
+    }
+    QCOMPARE(order,
+        QStringList({u"newCollection"_s, u"openCollection"_s, u"preferences"_s, u"quit"_s,
+            u"recentCollections"_s}));
     auto* const make = desk.window.findChild<QPushButton*>(u"newCollection"_s);
     make->setFocus();
     QTest::keyClick(make, Qt::Key_Return);

@@ -43,6 +43,7 @@ Application::Application(
 {
     QApplication::setQuitOnLastWindowClosed(
         m_delegate.applicationShouldTerminateAfterLastWindowClosed());
+    qApp->installEventFilter(&m_contextMenuKey);
     connect(&m_documents, &DocumentController::documentOpened, &m_startWindow, &QWidget::hide);
     connect(&m_documents, &DocumentController::documentClosed, this,
         &Application::showStartWindowWhenAlone);

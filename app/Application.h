@@ -10,6 +10,7 @@
 #include "listwindow/ToolbarConfiguration.h"
 #include "platform/DesktopRecents.h"
 #include "platform/network/UrlFetch.h"
+#include "platform/widgets/ContextMenuKey.h"
 #include "platform/widgets/DocumentController.h"
 
 #include <QObject>
@@ -64,6 +65,7 @@ private:
     Alerts& m_alerts;
     FilePanels& m_panels;
     FetchPolicy m_fetchPolicy;
+    ContextMenuKey m_contextMenuKey; // in all windows
     SpellChecker m_spellChecker; // for the notes of all editors
     ToolbarConfiguration m_toolbar; // of all main windows
     DocumentController m_documents;

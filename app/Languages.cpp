@@ -28,7 +28,7 @@ bool install(QCoreApplication& application, const QString& file, const QString& 
 QString translateTexts(QCoreApplication& application, const QStringList& languages)
 {
     for (const QString& name : languages) {
-        const QString language = QLocale::languageToCode(QLocale(name).language());
+        QString language = QLocale::languageToCode(QLocale(name).language());
         if (language == sourceLanguage)
             break;
         if (!install(application, "tomely_"_L1 + language, u":/translations"_s))

@@ -33,7 +33,7 @@ constexpr QMargins windowFrame{8, 32, 8, 8};
 
 struct Flag {
     QLatin1StringView key;
-    QCheckBox* Ui::Preferences::*box;
+    QCheckBox* Ui::Preferences::*box = nullptr;
 };
 
 // In the order in which they are stored.
@@ -54,8 +54,8 @@ constexpr std::array flags{
 
 struct Line {
     QLatin1StringView key;
-    QLineEdit* Ui::Preferences::*field;
-    bool isHost;
+    QLineEdit* Ui::Preferences::*field = nullptr;
+    bool isHost = false;
 };
 
 constexpr std::array lines{

@@ -24,7 +24,11 @@ constexpr int bookCount = 100'000;
 
 // Of one frame, handled and painted. Fluent is a small part of that; but this may be a build with
 // sanitizers, on a machine that does other things as well. The figures are in the test's output.
+#ifdef __SANITIZE_ADDRESS__
+constexpr qint64 mostMilliseconds = 8000; // every access to memory is checked
+#else
 constexpr qint64 mostMilliseconds = 2000;
+#endif
 
 /// The times of some frames.
 class Frames {

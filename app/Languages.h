@@ -1,5 +1,5 @@
-// The language of the program's texts: that of the desktop where the program knows it, else English.
-// Numbers keep the desktop's own format, which may be another one.
+// The language of the program's texts: that of the desktop where the program knows it, else
+// English. Numbers keep the desktop's own format, which may be another one.
 
 #pragma once
 

@@ -7,25 +7,19 @@
 #include "document/BookListDocument.h"
 #include "editor/BookEntryWindowController.h"
 #include "listwindow/BookListWindowController.h"
+#include "platform/widgets/AfterWaits.h"
 #include "platform/widgets/Waiting.h"
 
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QSessionManager>
-#include <QTimer>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace tomely {
-
-namespace {
-
-constexpr int retryMilliseconds = 200; // while the program waits for something
-
-} // namespace
 
 Application::Application(
     UserDefaults& defaults, Alerts& alerts, FilePanels& panels, FetchPolicy fetchPolicy)
@@ -121,16 +115,8 @@ void Application::askBeforeLogout(QSessionManager& session)
     // The questions are answered later; until then the session has to wait.
     session.cancel();
     if (session.allowsInteraction())
-        askAndQuit();
+        afterWaits(*this, [this] { quit(m_documents); });
     session.release();
-}
-
-void Application::askAndQuit()
-{
-    if (Waiting::isWaiting())
-        QTimer::singleShot(retryMilliseconds, this, &Application::askAndQuit);
-    else
-        quit(m_documents);
 }
 
 void Application::showStartWindowWhenAlone()

@@ -57,7 +57,6 @@ private:
     EditorServices editorServices();
     void comeForward();
     void askBeforeLogout(QSessionManager& session);
-    void askAndQuit();
     void showStartWindowWhenAlone();
     void noteRecents();
 

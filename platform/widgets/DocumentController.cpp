@@ -4,6 +4,7 @@
 #include "platform/Document.h"
 #include "platform/PreferenceKeys.h"
 #include "platform/UserDefaults.h"
+#include "platform/widgets/AfterWaits.h"
 #include "platform/widgets/Waiting.h"
 #include "platform/widgets/WaitPanel.h"
 #include "platform/widgets/WindowController.h"
@@ -13,7 +14,6 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QStandardPaths>
-#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -48,9 +48,6 @@ public:
 private:
     DocumentController::Done m_done;
 };
-
-// How often a request that came during a wait looks whether the wait is over.
-constexpr int retryMilliseconds = 50;
 
 QWidget* windowOf(const Document& document)
 {
@@ -122,7 +119,7 @@ QString DocumentController::nextUntitledName()
 Document* DocumentController::openDocument(const QString& path)
 {
     if (Waiting::isWaiting()) {
-        QTimer::singleShot(retryMilliseconds, this, [this, path] { openDocument(path); });
+        afterWaits(*this, [this, path] { openDocument(path); });
         return nullptr;
     }
     if (Document* const open = documentForFile(path)) {
@@ -265,11 +262,8 @@ void DocumentController::writeAs(
     const QPointer<Document>& document, const QString& path, const Done& done)
 {
     // A panel of the desktop is answered also while the program waits for something.
-    if (Waiting::isWaiting()) {
-        QTimer::singleShot(retryMilliseconds, this,
-            [this, document, path, done] { writeAs(document, path, done); });
-        return;
-    }
+    if (Waiting::isWaiting())
+        return afterWaits(*this, [this, document, path, done] { writeAs(document, path, done); });
     if (!document)
         return answer(done, false);
     const Document* const holder = documentForFile(path);
